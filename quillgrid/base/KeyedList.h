@@ -1,0 +1,100 @@
+#pragma once
+
+#include "quillgrid/base/Text.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace quillgrid {
+
+/// An ordered list of shared objects with 1-based positions and optional unique keys compared without regard
+/// to case. Appending and looking up are constant time; inserting and removing move what follows.
+/// Nothing here throws for a missing or duplicate key: callers decide what that means.
+template <typename T>
+class KeyedList {
+public:
+    using Pointer = std::shared_ptr<T>;
+
+    std::size_t Count() const { return items_.size(); }
+    bool IsEmpty() const { return items_.empty(); }
+
+    /// The item at a position 1..Count, or nothing.
+    Pointer At(std::size_t position) const {
+        return position >= 1 && position <= items_.size() ? items_[position - 1] : nullptr;
+    }
+    /// The item under a key, or nothing.
+    Pointer Find(std::string_view key) const {
+        const auto found = byKey_.find(key);
+        return found == byKey_.end() ? nullptr : found->second;
+    }
+    bool Contains(std::string_view key) const { return byKey_.find(key) != byKey_.end(); }
+
+    /// Inserts before `position` (appends when it is not within 1..Count); an empty key means none. False, and
+    /// nothing changed, when the key is taken.
+    bool Insert(std::size_t position, std::string_view key, Pointer item) {
+        if (!key.empty() && !byKey_.try_emplace(std::string(key), item).second) return false;
+        const bool inside = position >= 1 && position <= items_.size();
+        items_.insert(inside ? items_.begin() + static_cast<std::ptrdiff_t>(position - 1) : items_.end(),
+                      std::move(item));
+        return true;
+    }
+    bool Append(std::string_view key, Pointer item) { return Insert(0, key, std::move(item)); }
+
+    /// Removes and returns the item at a position, or nothing.
+    Pointer RemoveAt(std::size_t position);
+    /// 1-based position of an item, 0 when it is not in the list. Linear.
+    std::size_t PositionOf(const T* item) const;
+
+    void Clear() {
+        // The members may call back while they end: they must find an empty list, not a half-cleared one.
+        const auto items = std::exchange(items_, {});
+        const auto byKey = std::exchange(byKey_, {});
+    }
+
+    auto begin() const { return items_.begin(); }
+    auto end() const { return items_.end(); }
+
+private:
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const { return HashIgnoreCase(text); }
+    };
+    struct Equal {
+        using is_transparent = void;
+        bool operator()(std::string_view left, std::string_view right) const {
+            return EqualIgnoreCase(left, right);
+        }
+    };
+
+    std::vector<Pointer> items_;
+    std::unordered_map<std::string, Pointer, Hash, Equal> byKey_;
+};
+
+template <typename T>
+typename KeyedList<T>::Pointer KeyedList<T>::RemoveAt(std::size_t position) {
+    Pointer item = At(position);
+    if (!item) return nullptr;
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
+    for (auto entry = byKey_.begin(); entry != byKey_.end(); ++entry) {
+        if (entry->second == item) {
+            byKey_.erase(entry);
+            break;
+        }
+    }
+    return item;
+}
+
+template <typename T>
+std::size_t KeyedList<T>::PositionOf(const T* item) const {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        if (items_[i].get() == item) return i + 1;
+    }
+    return 0;
+}
+
+} // namespace quillgrid

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "quillgrid/locale/Locale.h"
+#include "quillgrid/platform/Clock.h"
+#include "quillgrid/platform/CurrencyConverter.h"
+#include "quillgrid/platform/EditBox.h"
+#include "quillgrid/platform/ImageSource.h"
+#include "quillgrid/platform/ScrollBar.h"
+#include "quillgrid/platform/Surface.h"
+#include "quillgrid/platform/TextMetrics.h"
+#include "quillgrid/platform/Theme.h"
+
+namespace quillgrid {
+
+/// Everything the control needs of its host. All of it outlives the control.
+struct GridPorts {
+    Surface& Window;
+    EditBox& Editor;
+    ScrollBar& Bar;
+    const TextMetrics& Metrics;
+    const Clock& Time;
+    const Theme& Desktop;
+    Locale UserLocale;
+    Font AmbientFont;
+    const ImageSource* Images = nullptr;
+    const CurrencyConverter* Currencies = nullptr;
+    bool UserMode = true; ///< false while a form designer shows the control
+};
+
+} // namespace quillgrid
