@@ -1,0 +1,60 @@
+#pragma once
+
+#include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Rect.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace quillgrid {
+
+/// The caption of a cell: what was given, what is painted, the access key, and where layout put it.
+class Label {
+public:
+    Label() = default;
+    Label(Label&&) = default;
+    Label& operator=(Label&&) = default;
+
+    /// As given, access-key marks ("&") included.
+    const std::string& Caption() const { return caption_; }
+    /// The character after the first "&" becomes the access key; without one the earlier access key stays.
+    void SetCaption(std::string caption);
+    /// The caption without any "&".
+    const std::string& DisplayCaption() const { return display_ ? *display_ : caption_; }
+    /// Code point of the lower-cased access character, 0 when there never was one.
+    std::int32_t AccessKey() const { return accessKey_; }
+
+    /// Pixels as seen; kept with the scroll offset added.
+    void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
+    std::int32_t Left() const { return place_.Left; }
+    /// Measured from the first row, that is with the scroll offset of `Move` added.
+    std::int32_t Top() const { return place_.Top; }
+    std::int32_t Width() const { return place_.Width(); }
+    std::int32_t Height() const { return place_.Height(); }
+    /// Where the label is seen: with the present scroll offset taken off again.
+    Rect SeenAt() const;
+
+    std::int32_t ScrollOffset() const { return scrollOffset_; }
+    void SetScrollOffset(std::int32_t offset) { scrollOffset_ = offset; }
+    AlignmentConstants Alignment() const { return alignment_; }
+    void SetAlignment(AlignmentConstants alignment) { alignment_ = alignment; }
+    /// Three values that layout keeps here.
+    std::int32_t LayoutValue(std::size_t which) const { return which < 3 ? layoutValues_[which] : 0; }
+    void SetLayoutValue(std::size_t which, std::int32_t value) {
+        if (which < 3) layoutValues_[which] = value;
+    }
+
+private:
+    std::string caption_;
+    std::unique_ptr<std::string> display_; ///< only where it differs from the caption
+    Rect place_;
+    std::array<std::int32_t, 3> layoutValues_{};
+    std::int32_t accessKey_ = 0;
+    std::int32_t scrollOffset_ = 0;
+    AlignmentConstants alignment_ = qgalLeftJustify;
+};
+
+} // namespace quillgrid

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "quillgrid/base/Variant.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quillgrid {
+
+/// One entry of a list-style cell.
+class Listitem {
+public:
+    Listitem() = default;
+
+    /// The position at which it was added; 0 for an entry of no list.
+    std::int32_t Index() const { return index_; }
+
+    const std::string& Text() const { return text_; }
+    void SetText(std::string text) { text_ = std::move(text); }
+    /// The value that a cell takes when this entry is chosen.
+    const Variant& ItemData() const { return itemData_; }
+    void SetItemData(Variant data) { itemData_ = std::move(data); }
+    /// Key of an image in the control's image list, Null when there is none.
+    const Variant& ListImage() const { return listImage_; }
+    void SetListImage(Variant key) { listImage_ = std::move(key); }
+    std::int32_t Indent() const { return indent_; }
+    /// Limited to 0..99.
+    void SetIndent(std::int32_t indent);
+
+private:
+    friend class Listitems;
+
+    std::string text_;
+    Variant itemData_;
+    Variant listImage_ = Variant::Null();
+    std::int32_t index_ = 0;
+    std::int32_t indent_ = 0;
+};
+
+} // namespace quillgrid

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "quillgrid/cells/ItemKey.h"
+#include "quillgrid/cells/Listitem.h"
+#include "quillgrid/cells/PositionIterator.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillgrid {
+
+struct ListitemArguments {
+    std::string Text;
+    std::optional<Variant> ItemData{};  ///< the text when not given
+    std::optional<Variant> ListImage{}; ///< Null when not given
+    std::int32_t Indent = 0;            ///< taken as given
+};
+
+/// The entries of a list-style cell, in order and without keys.
+class Listitems {
+public:
+    using Pointer = std::shared_ptr<quillgrid::Listitem>;
+    using Iterator = PositionIterator<Listitems, quillgrid::Listitem>;
+
+    /// Appends an entry.
+    Pointer Add(ListitemArguments arguments);
+    /// The entry at a position, or nothing.
+    Pointer Item(ItemKey which) const { return which.IsKey() ? nullptr : At(which.Position()); }
+    std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
+    void Clear();
+    /// Removes the entry at a position; nothing happens when there is none.
+    void Remove(std::size_t position);
+    /// Whether any entry was added with an image.
+    bool HasImages() const { return hasImages_; }
+
+    /// A spare entry that belongs to no position; made on the first read.
+    Pointer Listitem();
+    void SetListitem(Pointer spare) { spare_ = std::move(spare); }
+
+    /// The entry that typed characters select: characters typed within 500 ms of each other (up to 20) form
+    /// one search text. `current` is the position chosen now, `tick` the time in milliseconds. Gives the
+    /// index of the next entry that begins with the search text, or `current`, and then the search text is
+    /// emptied.
+    std::int32_t TypeAhead(std::int32_t current, char32_t character, std::uint64_t tick);
+
+    Pointer At(std::size_t position) const {
+        return position >= 1 && position <= entries_.size() ? entries_[position - 1] : nullptr;
+    }
+    std::size_t Size() const { return entries_.size(); }
+    /// The first entry whose data equal `value` as text, ignoring case, or 0. Linear.
+    std::int32_t PositionOfData(const Variant& value) const;
+
+    Iterator begin() const { return Iterator(*this); }
+    Iterator end() const { return Iterator(); }
+
+private:
+    void ExtendSearchText(char32_t character, std::uint64_t tick);
+    const quillgrid::Listitem* FirstMatch(std::size_t from, std::size_t to) const;
+
+    std::vector<Pointer> entries_;
+    Pointer spare_;
+    std::string searchText_;
+    std::optional<std::uint64_t> lastKeyTick_;
+    bool hasImages_ = false;
+};
+
+} // namespace quillgrid
