@@ -1,5 +1,5 @@
-// Conversion of a variant to one type, texts read as the user's locale writes them. Nothing when the value has
-// no meaning in that type: callers decide what that means.
+// Conversion of a variant to one type, texts read as the user's locale writes them. Nothing when the value
+// has no meaning in that type: callers decide what that means.
 #pragma once
 
 #include "quillgrid/base/Variant.h"
@@ -11,8 +11,8 @@
 
 namespace quillgrid {
 
-/// Numbers (rounded half to even), booleans (-1, 0), dates (their day number), texts that are numbers. Null, empty
-/// and objects give nothing in all of these.
+/// Numbers (rounded half to even), booleans (-1, 0), dates (their day number), texts that are numbers. Null,
+/// empty and objects give nothing in all of these.
 std::optional<std::int32_t> ToLong(const Variant& value, const Locale& locale);
 std::optional<Currency> ToCurrency(const Variant& value, const Locale& locale);
 std::optional<double> ToDouble(const Variant& value, const Locale& locale);
@@ -23,7 +23,8 @@ std::optional<bool> ToBoolean(const Variant& value, const Locale& locale);
 /// separator, an optional exponent. Blanks at both ends are passed over.
 std::optional<double> NumberFromText(std::string_view text, const Locale& locale);
 
-/// The value as the locale writes it: "" for Null, empty and objects, General Number, General Date, or the text.
+/// The value as the locale writes it: "" for Null, empty and objects, General Number, General Date, or the
+/// text.
 std::string ToText(const Variant& value, const Locale& locale);
 
 } // namespace quillgrid

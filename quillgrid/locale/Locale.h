@@ -27,12 +27,12 @@ struct Locale {
     int CurrencyDecimals = 2;
 
     DateOrder Order = DateOrder::DayMonthYear;
-    std::string ShortDate;  ///< a date pattern, always with a four-digit year: "dd.mm.yyyy"
+    std::string ShortDate; ///< a date pattern, always with a four-digit year: "dd.mm.yyyy"
     std::string MediumDate;
-    std::string LongDate;   ///< "dddd, d. mmmm yyyy"
-    std::string LongTime;   ///< "hh:nn:ss" or "h:nn:ss AM/PM"
-    std::string ShortTime;  ///< "hh:nn"
-    std::string MediumTime; ///< "hh:nn AM/PM"
+    std::string LongDate;      ///< "dddd, d. mmmm yyyy"
+    std::string LongTime;      ///< "hh:nn:ss" or "h:nn:ss AM/PM"
+    std::string ShortTime;     ///< "hh:nn"
+    std::string MediumTime;    ///< "hh:nn AM/PM"
     std::string DateSeparator; ///< what "/" stands for in a date pattern
     std::string TimeSeparator; ///< what ":" stands for in a date pattern
     std::string Am;
@@ -54,9 +54,9 @@ struct Locale {
     int Compare(std::string_view left, std::string_view right) const;
 };
 
-/// The built-in locale for a name: "de-DE", "de-AT", "de-CH", "en-US", "en-GB", "fr-FR", "it-IT", "es-ES". Case
-/// and "_" for "-" do not matter; another country of a known language gives the language's first ("fr-CA" gives
-/// fr-FR), anything else the default, de-DE. Never fails.
+/// The built-in locale for a name: "de-DE", "de-AT", "de-CH", "en-US", "en-GB", "fr-FR", "it-IT", "es-ES".
+/// Case and "_" for "-" do not matter; another country of a known language gives the language's first
+/// ("fr-CA" gives fr-FR), anything else the default, de-DE. Never fails.
 const Locale& BuiltInLocale(std::string_view name);
 /// Whether `BuiltInLocale` has exactly this language and country.
 bool HasBuiltInLocale(std::string_view name);
