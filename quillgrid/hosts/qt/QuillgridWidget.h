@@ -1,0 +1,80 @@
+#pragma once
+
+#include "quillgrid/grid/Quillgrid.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace quillgrid::qt {
+
+class WidgetHost;
+
+/// The control as a Qt widget: put it into a layout, define cells through `grid()`, connect the signals.
+///
+/// Signals carry what the control's events carry. Their by-reference arguments are pointers, valid only
+/// during the signal, so connect them directly (the default within one thread). A slot may delete the widget.
+class QuillgridWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Says why typed text was refused, in the user's words; an empty answer falls back on the control's own.
+    using MessageSource = std::function<QString(const Cell& cell, ValidationErrConstants code)>;
+
+    /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own
+    /// `Language`.
+    explicit QuillgridWidget(QWidget* parent = nullptr);
+    ~QuillgridWidget() override;
+
+    /// The control itself; lives as long as the widget.
+    Quillgrid& grid();
+    const Quillgrid& grid() const;
+
+    /// The texts of the bubble beside a refused cell. By default the control's messages, in German or
+    /// English.
+    void setMessageSource(MessageSource source);
+    /// Shows a message at the current cell as if its text had been refused. Empty hides it.
+    void showMessage(const QString& text);
+    /// The message shown at a cell now, empty when there is none.
+    QString shownMessage() const;
+    /// Milliseconds after which the message goes by itself; 0 keeps it until the next key. 8000 by default.
+    int messageDuration() const;
+    void setMessageDuration(int milliseconds);
+
+    /// Takes over what is being typed; false when a handler keeps the user in the cell. Call it before
+    /// saving.
+    bool commitEdit();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// Typed text was refused. Set `*cancel` to keep the user in the cell.
+    void validateCellError(quillgrid::Cell* cell, quillgrid::ValidationErrConstants code, bool* cancel);
+    /// A value was taken over. Set `*cancel` to keep the user in the cell.
+    void validateCell(quillgrid::Cell* cell, bool* cancel);
+    void selChange(quillgrid::Cell* cell);
+    void change(quillgrid::Cell* cell);
+    void beep();
+    /// The user moved past the first or the last cell while AllowWrap is false.
+    void leaveFocus(quillgrid::Cell* cell);
+    void imageClick(quillgrid::Cell* cell);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    std::unique_ptr<WidgetHost> host_;
+};
+
+} // namespace quillgrid::qt
