@@ -10,8 +10,12 @@ using Colour = std::uint32_t;
 
 inline constexpr Colour SystemColourFlag = 0x80000000U;
 
-constexpr Colour SystemColour(std::uint32_t index) { return SystemColourFlag | index; }
-constexpr bool IsSystemColour(Colour colour) { return (colour & SystemColourFlag) != 0; }
+constexpr Colour SystemColour(std::uint32_t index) {
+    return SystemColourFlag | index;
+}
+constexpr bool IsSystemColour(Colour colour) {
+    return (colour & SystemColourFlag) != 0;
+}
 constexpr Colour Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
     return (red & 0xFFU) | ((green & 0xFFU) << 8U) | ((blue & 0xFFU) << 16U);
 }

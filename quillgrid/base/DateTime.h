@@ -30,12 +30,14 @@ struct DateTime {
 };
 
 inline constexpr std::int32_t SecondsPerDay = 86'400;
-inline constexpr std::int32_t FirstDay = -657'434;  ///< 1 January 100, the first valid day
-inline constexpr std::int32_t LastDay = 2'958'465;  ///< 31 December 9999, the last valid day
+inline constexpr std::int32_t FirstDay = -657'434; ///< 1 January 100, the first valid day
+inline constexpr std::int32_t LastDay = 2'958'465; ///< 31 December 9999, the last valid day
 inline constexpr std::int32_t FirstYear = 100;
 inline constexpr std::int32_t LastYear = 9999;
 
-constexpr bool IsValidDay(std::int64_t day) { return day >= FirstDay && day <= LastDay; }
+constexpr bool IsValidDay(std::int64_t day) {
+    return day >= FirstDay && day <= LastDay;
+}
 
 /// Days in a month (1 to 12) of a year of the proleptic Gregorian calendar.
 int DaysInMonth(int year, int month);

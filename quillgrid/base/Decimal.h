@@ -9,8 +9,8 @@
 
 namespace quillgrid {
 
-/// Reads "[-]digits[.digits]" (either run may be empty, not both), correctly rounded; nothing when the text is
-/// of another form or the number is too large for a double. Independent of the C locale.
+/// Reads "[-]digits[.digits]" (either run may be empty, not both), correctly rounded; nothing when the text
+/// is of another form or the number is too large for a double. Independent of the C locale.
 std::optional<double> DoubleFromDecimal(std::string_view text);
 
 /// The shortest digits that read back as the same finite number: digits "125", exponent 1 means 1.25 × 10^1.

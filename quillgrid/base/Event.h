@@ -34,9 +34,9 @@ private:
     std::function<void()> disconnect_;
 };
 
-/// A published event with any number of listeners, called in the order in which they connected. A listener may
-/// disconnect itself or others, connect new ones (called from the next raise on), destroy the event's owner
-/// or throw: the exception goes on to whoever raised the event. By-reference arguments are references.
+/// A published event with any number of listeners, called in the order in which they connected. A listener
+/// may disconnect itself or others, connect new ones (called from the next raise on), destroy the event's
+/// owner or throw: the exception goes on to whoever raised the event. By-reference arguments are references.
 template <typename... Args>
 class Event {
 public:

@@ -34,8 +34,8 @@ public:
     }
     bool Contains(std::string_view key) const { return byKey_.find(key) != byKey_.end(); }
 
-    /// Inserts before `position` (appends when it is not within 1..Count); an empty key means none. False, and
-    /// nothing changed, when the key is taken.
+    /// Inserts before `position` (appends when it is not within 1..Count); an empty key means none. False,
+    /// and nothing changed, when the key is taken.
     bool Insert(std::size_t position, std::string_view key, Pointer item) {
         if (!key.empty() && !byKey_.try_emplace(std::string(key), item).second) return false;
         const bool inside = position >= 1 && position <= items_.size();

@@ -57,22 +57,22 @@ public:
         return std::get_if<T>(&value_);
     }
 
-    /// The value as text without regard to any locale: "" for empty, Null and objects; plain decimals with "."
-    /// and no exponent; "True" or "False"; dates as yyyy-mm-dd, with " hh:mm:ss" when a time is set; a time
-    /// of day (day 0) as hh:mm:ss.
+    /// The value as text without regard to any locale: "" for empty, Null and objects; plain decimals with
+    /// "." and no exponent; "True" or "False"; dates as yyyy-mm-dd, with " hh:mm:ss" when a time is set; a
+    /// time of day (day 0) as hh:mm:ss.
     std::string ToPlainText() const;
 
     /// Same type and same value; an object is unequal to everything, itself included.
     friend bool operator==(const Variant& left, const Variant& right);
 
 private:
-    std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, quillgrid::Currency, double, DateTime, bool,
-                 std::string, ObjectReference>
+    std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, quillgrid::Currency, double, DateTime,
+                 bool, std::string, ObjectReference>
         value_;
 };
 
-/// Equality "as text, ignoring case": 1, 1.0, Currency 1 and "1" are equal, Null and empty equal "", an object
-/// equals nothing. No allocation when both are text or both are the same number type.
+/// Equality "as text, ignoring case": 1, 1.0, Currency 1 and "1" are equal, Null and empty equal "", an
+/// object equals nothing. No allocation when both are text or both are the same number type.
 bool EqualAsText(const Variant& left, const Variant& right);
 
 } // namespace quillgrid
