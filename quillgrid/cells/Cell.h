@@ -3,15 +3,13 @@
 #include "quillgrid/base/Colour.h"
 #include "quillgrid/base/Constants.h"
 #include "quillgrid/base/Currency.h"
-#include "quillgrid/base/Rect.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/cells/CellExtras.h"
-#include "quillgrid/cells/Label.h"
+#include "quillgrid/cells/CellState.h"
 #include "quillgrid/cells/Listitems.h"
 #include "quillgrid/cells/OwnerLink.h"
 #include "quillgrid/locale/Locale.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -45,9 +43,6 @@ struct LayoutArguments {
     CharCaseConstants newCharCase = qgccNone;
 };
 
-/// The rectangles that layout keeps in a cell.
-enum class CellArea : std::uint8_t { Value, Button, First, Second };
-
 /// One labelled input row: caption, typed value, the rules that check the value, its look and the access
 /// rights. Made by `Cells::Add`. Unless said otherwise a property is only stored and the control sees it when
 /// it next paints or refreshes; arguments are not validated.
@@ -59,8 +54,8 @@ public:
 
     // Value and text
 
-    const std::string& Caption() const { return label_.Caption(); }
-    void SetCaption(std::string caption) { label_.SetCaption(std::move(caption)); }
+    const std::string& Caption() const { return state_.Label.Caption(); }
+    void SetCaption(std::string caption) { state_.Label.SetCaption(std::move(caption)); }
     /// The value in the type of the validation rule; the data of the chosen entry for list and boolean cells;
     /// Null where there is no value or none of that type.
     Variant Value() const;
@@ -68,9 +63,9 @@ public:
     /// error.
     void SetValue(Variant value);
     /// The value as it is shown.
-    const std::string& Text() const { return text_; }
+    const std::string& Text() const { return state_.Text; }
     void SetText(std::string text) { SetValue(Variant(std::move(text))); }
-    const std::string& Format() const { return format_; }
+    const std::string& Format() const { return state_.Format; }
     void SetFormat(std::string format);
     /// Currency code or unit after the value; the text follows at once.
     const std::string& Unit() const { return Extras().Unit; }
@@ -80,15 +75,15 @@ public:
     /// Limited to 0..100; 0 leaves the value as it is.
     void SetPercentValue(Currency percentage);
     /// Whether the value was changed since the cell was defined or the control last accepted all values.
-    bool Changed() const { return changed_; }
+    bool Changed() const { return state_.Changed; }
 
     // Rules
 
-    ValidationRuleConstants ValidationRule() const { return rule_; }
+    ValidationRuleConstants ValidationRule() const { return state_.Rule; }
     void SetValidationRule(ValidationRuleConstants rule);
     /// Characters; limits free text only. Negative counts as 0.
-    std::int32_t MaxLength() const { return maxLength_; }
-    void SetMaxLength(std::int32_t characters) { maxLength_ = characters; }
+    std::int32_t MaxLength() const { return state_.MaxLength; }
+    void SetMaxLength(std::int32_t characters) { state_.MaxLength = characters; }
     const Variant& Min() const { return Extras().Min; }
     void SetMin(Variant bound) {
         SetRare(&CellExtras::Min, bound.IsEmpty() ? Variant::Null() : std::move(bound));
@@ -97,17 +92,17 @@ public:
     void SetMax(Variant bound) { SetRare(&CellExtras::Max, std::move(bound)); }
     const Variant& Default() const { return Extras().Default; }
     void SetDefault(Variant value) { SetRare(&CellExtras::Default, std::move(value)); }
-    bool AllowEmpty() const { return allowEmpty_; }
-    void SetAllowEmpty(bool allow) { allowEmpty_ = allow; }
+    bool AllowEmpty() const { return state_.AllowEmpty; }
+    void SetAllowEmpty(bool allow) { state_.AllowEmpty = allow; }
     /// The characters that input may have, in any case; empty allows all.
     const std::string& Charlist() const { return Extras().Charlist; }
     void SetCharlist(std::string characters) { SetRare(&CellExtras::Charlist, std::move(characters)); }
-    CharCaseConstants CharCase() const { return charCase_; }
-    void SetCharCase(CharCaseConstants charCase) { charCase_ = charCase; }
-    bool CausesValidation() const { return causesValidation_; }
-    void SetCausesValidation(bool validate) { causesValidation_ = validate; }
+    CharCaseConstants CharCase() const { return state_.CharCase; }
+    void SetCharCase(CharCaseConstants charCase) { state_.CharCase = charCase; }
+    bool CausesValidation() const { return state_.CausesValidation; }
+    void SetCausesValidation(bool validate) { state_.CausesValidation = validate; }
     /// Code of the last failed validation, 0 when there is none.
-    ValidationErrConstants ErrorCode() const { return errorCode_; }
+    ValidationErrConstants ErrorCode() const { return state_.ErrorCode; }
     /// Step of the spin button.
     Currency Increment() const { return Extras().Increment; }
     void SetIncrement(Currency step) { SetRare(&CellExtras::Increment, step); }
@@ -124,7 +119,7 @@ public:
     class Listitems& Listitems();
     const class Listitems& Listitems() const;
     /// Position of the chosen entry, -1 when none was chosen.
-    std::int32_t ListIndex() const { return listIndex_; }
+    std::int32_t ListIndex() const { return state_.ListIndex; }
     /// Chooses an entry; positions that do not exist change nothing.
     void SetListIndex(std::int32_t index);
     const Variant& ItemData() const { return Extras().ItemData; }
@@ -133,48 +128,48 @@ public:
 
     // Look
 
-    CellTemplateConstants Template() const { return template_; }
-    CellStyleConstants Style() const { return style_; }
+    CellTemplateConstants Template() const { return state_.Template; }
+    CellStyleConstants Style() const { return state_.Style; }
     void SetStyle(CellStyleConstants style);
-    AlignmentConstants Alignment() const { return alignment_; }
-    void SetAlignment(AlignmentConstants alignment) { alignment_ = alignment; }
-    ButtonStyleConstants Button() const { return button_; }
-    void SetButton(ButtonStyleConstants button) { button_ = button; }
+    AlignmentConstants Alignment() const { return state_.Alignment; }
+    void SetAlignment(AlignmentConstants alignment) { state_.Alignment = alignment; }
+    ButtonStyleConstants Button() const { return state_.Button; }
+    void SetButton(ButtonStyleConstants button) { state_.Button = button; }
     /// Key of an image in the control's image list; Null or an unknown key shows none.
     const Variant& ListImage() const { return Extras().ListImage; }
     void SetListImage(Variant key) { SetRare(&CellExtras::ListImage, std::move(key)); }
     const std::string& TooltipText() const { return Extras().TooltipText; }
     void SetTooltipText(std::string text) { SetRare(&CellExtras::TooltipText, std::move(text)); }
-    Colour ForeColor() const { return foreColor_; }
+    Colour ForeColor() const { return state_.ForeColor; }
     void SetForeColor(Colour colour);
-    bool FontBold() const { return fontBold_; }
+    bool FontBold() const { return state_.FontBold; }
     void SetFontBold(bool bold);
-    bool FontItalic() const { return fontItalic_; }
+    bool FontItalic() const { return state_.FontItalic; }
     void SetFontItalic(bool italic);
     /// Colour of the percent bar.
     Colour FillColor() const { return Extras().FillColor; }
     void SetFillColor(Colour colour) { SetRare(&CellExtras::FillColor, colour); }
-    bool ShowPercent() const { return showPercent_; }
-    void SetShowPercent(bool show) { showPercent_ = show; }
+    bool ShowPercent() const { return state_.ShowPercent; }
+    void SetShowPercent(bool show) { state_.ShowPercent = show; }
     /// Width of the value area in pixels, from layout.
-    std::int32_t Width() const { return areas_[0].Width(); }
+    std::int32_t Width() const { return state_.Areas[0].Width(); }
 
     // Place and access
 
     /// Position in `Cells`; after a sort the place in the display order.
     std::int32_t Index() const { return index_; }
     const std::string& Key() const { return key_; }
-    const std::string& Group() const { return group_; }
+    const std::string& Group() const { return state_.Group; }
     /// Another key (in any case) makes the control regroup.
     void SetGroup(std::string key);
-    bool Visible() const { return visible_; }
-    void SetVisible(bool visible) { visible_ = visible; }
-    bool Enabled() const { return enabled_; }
-    void SetEnabled(bool enabled) { enabled_ = enabled; }
-    bool DataVisible() const { return dataVisible_; }
-    void SetDataVisible(bool visible) { dataVisible_ = visible; }
-    bool Locked() const { return locked_; }
-    void SetLocked(bool locked) { locked_ = locked; }
+    bool Visible() const { return state_.Visible; }
+    void SetVisible(bool visible) { state_.Visible = visible; }
+    bool Enabled() const { return state_.Enabled; }
+    void SetEnabled(bool enabled) { state_.Enabled = enabled; }
+    bool DataVisible() const { return state_.DataVisible; }
+    void SetDataVisible(bool visible) { state_.DataVisible = visible; }
+    bool Locked() const { return state_.Locked; }
+    void SetLocked(bool locked) { state_.Locked = locked; }
     /// The least user level that sees the cell, sees its data, may change it.
     std::int32_t UserlevelVisible() const { return Extras().UserlevelVisible; }
     void SetUserlevelVisible(std::int32_t level) { SetRare(&CellExtras::UserlevelVisible, level); }
@@ -213,7 +208,7 @@ public:
     void DefineLayout(LayoutArguments arguments);
     void DefineRestrictions(std::int32_t newUserlevelVisible, std::int32_t newUserLevelDataVisible,
                             std::int32_t newUserLevelEnabled);
-    /// Resets everything but index, key, control, the allowed days and the data binding.
+    /// Resets everything but index, key, control and the allowed days; caption and list are empty afterwards.
     void Clear();
     /// Returns to the value at the last definition or accepted update.
     void Undo();
@@ -239,8 +234,8 @@ private:
         WritableExtras().*field = std::move(value);
     }
 
-    bool IsList() const { return style_ == qgcsList; }
-    bool IsBoolean() const { return rule_ == qgvrBoolean; }
+    bool IsList() const { return state_.Style == qgcsList; }
+    bool IsBoolean() const { return state_.Rule == qgvrBoolean; }
     std::optional<Variant> Accept(Variant value);
     std::optional<Variant> AcceptBoolean(const Variant& value);
     std::optional<Variant> AcceptEntry(Variant value);
@@ -255,42 +250,12 @@ private:
 
     OwnerLinkReference link_;
     std::unique_ptr<CellExtras> extras_;
-    std::unique_ptr<Variant> undoValue_; ///< none while it is the value itself
-    Variant value_ = Variant::Null();
-    std::string text_;
-    std::string format_;
+    CellState state_;
     std::string key_;
-    std::string group_;
-    Label label_;
-    std::array<Rect, 4> areas_{};
-    std::int32_t scrollOffset_ = 0;
     std::int32_t index_ = 0;
-    std::int32_t listIndex_ = -1;
-    std::int32_t maxLength_ = 50;
-    Colour foreColor_ = ColourWindowText;
-    Colour inheritedForeColor_ = ColourWindowText;
-    CellTemplateConstants template_ = qgctNone;
-    ValidationRuleConstants rule_ = qgvrNone;
-    ValidationErrConstants errorCode_ = qgErrNone;
-    CellStyleConstants style_ = qgcsText;
-    ButtonStyleConstants button_ = qgbtNone;
-    AlignmentConstants alignment_ = qgalLeftJustify;
-    CharCaseConstants charCase_ = qgccNone;
-    bool visible_ : 1 = true;
-    bool enabled_ : 1 = true;
-    bool dataVisible_ : 1 = true;
-    bool locked_ : 1 = false;
-    bool allowEmpty_ : 1 = true;
-    bool causesValidation_ : 1 = true;
-    bool allowHoliday_ : 1 = true;
-    bool allowSaturday_ : 1 = true;
-    bool allowSunday_ : 1 = true;
-    bool fontBold_ : 1 = false;
-    bool fontItalic_ : 1 = false;
-    bool showPercent_ : 1 = false;
-    bool changed_ : 1 = false;
-    bool repaint_ : 1 = false;   ///< colour or font changed since the row was painted
-    bool staleText_ : 1 = false; ///< a property that the text depends on changed since it was made
+    bool allowHoliday_ = true;
+    bool allowSaturday_ = true;
+    bool allowSunday_ = true;
 };
 
 } // namespace quillgrid

@@ -15,39 +15,41 @@ public:
     static void SetIndex(Cell& cell, std::int32_t index) { cell.index_ = index; }
     static void SetKey(Cell& cell, std::string key) { cell.key_ = std::move(key); }
     /// Only stores the number; `Define` applies a template.
-    static void SetTemplate(Cell& cell, CellTemplateConstants number) { cell.template_ = number; }
-    static void SetErrorCode(Cell& cell, ValidationErrConstants code) { cell.errorCode_ = code; }
+    static void SetTemplate(Cell& cell, CellTemplateConstants number) { cell.state_.Template = number; }
+    static void SetErrorCode(Cell& cell, ValidationErrConstants code) { cell.state_.ErrorCode = code; }
     /// False also makes the value the one that `Undo` returns to.
     static void SetChanged(Cell& cell, bool changed) { cell.SetChanged(changed); }
     static const Variant& UndoValue(const Cell& cell) {
-        return cell.undoValue_ ? *cell.undoValue_ : cell.value_;
+        return cell.state_.UndoValue ? *cell.state_.UndoValue : cell.state_.Value;
     }
     static void SetUndoValue(Cell& cell, Variant value) {
-        cell.undoValue_ = std::make_unique<Variant>(std::move(value));
+        cell.state_.UndoValue = std::make_unique<Variant>(std::move(value));
     }
     /// The value as it is kept, without the conversion of `Value`.
-    static const Variant& StoredValue(const Cell& cell) { return cell.value_; }
+    static const Variant& StoredValue(const Cell& cell) { return cell.state_.Value; }
 
-    static quillgrid::Label& Label(Cell& cell) { return cell.label_; }
-    static const quillgrid::Label& Label(const Cell& cell) { return cell.label_; }
+    static quillgrid::Label& Label(Cell& cell) { return cell.state_.Label; }
+    static const quillgrid::Label& Label(const Cell& cell) { return cell.state_.Label; }
     /// As seen: kept with the scroll offset added, given back with the present one taken off.
     static Rect Area(const Cell& cell, CellArea area);
     static void SetArea(Cell& cell, CellArea area, const Rect& seen);
-    static std::int32_t ScrollOffset(const Cell& cell) { return cell.scrollOffset_; }
+    static std::int32_t ScrollOffset(const Cell& cell) { return cell.state_.ScrollOffset; }
     /// Moves the label along.
     static void SetScrollOffset(Cell& cell, std::int32_t offset) {
-        cell.scrollOffset_ = offset;
-        cell.label_.SetScrollOffset(offset);
+        cell.state_.ScrollOffset = offset;
+        cell.state_.Label.SetScrollOffset(offset);
     }
 
     static CellOwner* Owner(const Cell& cell) { return cell.Owner(); }
     static void SetOwner(Cell& cell, OwnerLinkReference link) { cell.link_ = std::move(link); }
 
     /// Colour, bold or italic changed since the flag was last taken back.
-    static bool RepaintPending(const Cell& cell) { return cell.repaint_; }
-    static void SetRepaintPending(Cell& cell, bool pending) { cell.repaint_ = pending; }
+    static bool RepaintPending(const Cell& cell) { return cell.state_.Repaint; }
+    static void SetRepaintPending(Cell& cell, bool pending) { cell.state_.Repaint = pending; }
     /// Whether the text colour is another one than the control gave when it made the cell.
-    static bool HasOwnForeColor(const Cell& cell) { return cell.foreColor_ != cell.inheritedForeColor_; }
+    static bool HasOwnForeColor(const Cell& cell) {
+        return cell.state_.ForeColor != cell.state_.InheritedForeColor;
+    }
     /// Colour and font of the control, taken over by a new cell.
     static void Inherit(Cell& cell, Colour foreColor, bool bold, bool italic);
 

@@ -17,7 +17,7 @@ class ItemKey {
 public:
     template <std::integral Number>
     requires(!std::same_as<Number, bool>) ItemKey(Number position)
-        : position_(std::in_range<std::int64_t>(position) ? static_cast<std::int64_t>(position) : 0) {}
+        : position_(static_cast<std::int64_t>(position)) {}
     template <std::convertible_to<std::string_view> Text>
     ItemKey(const Text& key) : key_(key), isKey_(true) {}
     ItemKey(const Variant& indexKey);

@@ -1,0 +1,43 @@
+#include "quillgrid/cells/Label.h"
+
+#include "quillgrid/base/Text.h"
+#include "quillgrid/cells/SeenPlace.h"
+
+#include <algorithm>
+
+namespace quillgrid {
+
+namespace {
+
+constexpr char AccessMark = '&';
+
+std::int32_t FarEdge(std::int32_t start, std::int32_t length) {
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(std::int64_t{start} + length, INT32_MIN, INT32_MAX));
+}
+
+} // namespace
+
+void Label::SetCaption(std::string caption) {
+    const auto mark = caption.find(AccessMark);
+    if (mark == std::string::npos) {
+        display_.reset();
+    } else {
+        auto display = std::make_unique<std::string>(caption);
+        std::erase(*display, AccessMark);
+        const auto accessed = DecodeFirst(std::string_view(*display).substr(mark));
+        if (accessed.Bytes > 0) accessKey_ = static_cast<std::int32_t>(ToLower(accessed.Character));
+        display_ = std::move(display);
+    }
+    caption_ = std::move(caption);
+}
+
+void Label::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
+    place_ = MovedDown({left, top, FarEdge(left, width), FarEdge(top, height)}, scrollOffset_);
+}
+
+Rect Label::SeenAt() const {
+    return MovedUp(place_, scrollOffset_);
+}
+
+} // namespace quillgrid
