@@ -1,0 +1,58 @@
+#!/usr/bin/env python3
+"""Reads a benchmark run and prints the figures with the ratios that the project aims at."""
+
+import json
+import sys
+
+# subject, rival, largest ratio of their times
+AIMS = [
+    ("Number_Quillgrid", "Number_QLocale", 0.35),
+    ("Number_QuillgridCurrency", "Number_QLocale", 0.35),
+    ("Date_Quillgrid", "Date_QLocale", 0.10),
+    ("Date_Quillgrid", "Date_Strptime", 1.50),
+    ("Cells_AddAtEnd/100000", "Cells_AddAtEnd/1000", 1.50),  # per cell
+]
+# subject, counter, largest value
+LIMITS = [
+    ("Number_Quillgrid", "allocations", 0.01),
+    ("Date_Quillgrid", "allocations", 0.01),
+    ("Show_Date", "allocations", 1.01),
+    ("Show_Currency", "allocations", 1.01),
+    ("Cells_AddAtEnd/100000", "bytes_per_cell", 500),
+]
+NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+def medians(path):
+    with open(path, encoding="utf-8") as file:
+        runs = json.load(file)["benchmarks"]
+    return {run["run_name"]: run for run in runs if run.get("aggregate_name", "median") == "median"}
+
+
+def time_of(run):
+    if "time_per_cell" in run:
+        return run["time_per_cell"] * 1e9
+    return run["cpu_time"] * NANOSECONDS[run["time_unit"]]
+
+
+def main(path):
+    runs = medians(path)
+    for name, run in runs.items():
+        extras = "  ".join(f"{key} {run[key]:.2f}" for key in ("allocations", "bytes_per_cell") if key in run)
+        print(f"{name:32} {time_of(run):12.1f} ns  {extras}")
+    print()
+    missed = 0
+    for subject, rival, largest in AIMS:
+        if subject in runs and rival in runs:
+            ratio = time_of(runs[subject]) / time_of(runs[rival])
+            missed += ratio > largest
+            print(f"{subject} / {rival}: {ratio:.3f} (at most {largest}) {'ok' if ratio <= largest else 'MISSED'}")
+    for subject, counter, largest in LIMITS:
+        if subject in runs:
+            value = runs[subject][counter]
+            missed += value > largest
+            print(f"{subject} {counter}: {value:.2f} (at most {largest}) {'ok' if value <= largest else 'MISSED'}")
+    return 1 if missed else 0
+
+
+sys.exit(main(sys.argv[1]))
