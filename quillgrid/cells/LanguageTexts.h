@@ -8,8 +8,8 @@
 
 namespace quillgrid {
 
-/// First number of a language's block of the string table: 10000 for German, the default and unknown languages,
-/// 11000 English, 12000 French, 13000 Italian, 14000 Spanish.
+/// First number of a language's block of the string table: 10000 for German, the default and unknown
+/// languages, 11000 English, 12000 French, 13000 Italian, 14000 Spanish.
 std::int32_t LanguageBlock(LanguageConstants language);
 
 /// The text of a language under a number relative to its block; else the text stored under the bare number;

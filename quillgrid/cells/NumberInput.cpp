@@ -1,0 +1,70 @@
+#include "quillgrid/cells/NumberInput.h"
+
+#include "quillgrid/base/Decimal.h"
+#include "quillgrid/base/Text.h"
+#include "quillgrid/cells/InputNormaliser.h"
+#include "quillgrid/cells/InputText.h"
+#include "quillgrid/locale/Coercion.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace quillgrid {
+
+namespace {
+
+InputShape IntegerShape() {
+    return {};
+}
+
+InputShape DecimalShape(const InputContext& context) {
+    return {.Separator = '.', .MostSeparators = 1, .SeparatorCharacters = context.Separators.Number};
+}
+
+/// A lone minus or point, or nothing at all, reads as 0.
+bool HasDigits(std::string_view plain) {
+    return !plain.empty() && plain.find_first_not_of("-.") != plain.npos;
+}
+
+std::optional<std::int32_t> ReadLong(std::string_view plain) {
+    if (!HasDigits(plain)) return 0;
+    std::int32_t number = 0;
+    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), number);
+    return result.ec == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<Currency> ReadCurrency(std::string_view plain) {
+    return HasDigits(plain) ? Currency::FromDecimal(plain) : Currency();
+}
+
+std::optional<double> ReadDouble(std::string_view plain) {
+    return HasDigits(plain) ? DoubleFromDecimal(plain) : 0.0;
+}
+
+} // namespace
+
+std::optional<std::int32_t> LongFromInput(const Variant& value, const InputContext& context) {
+    if (value.IsNumber()) return ToLong(value, context.UserLocale);
+    const InputText text(value, context.UserLocale);
+    return ReadLong(InputNormaliser(text.View(), IntegerShape()).Text());
+}
+
+std::optional<Currency> CurrencyFromInput(const Variant& value, const InputContext& context) {
+    if (value.IsNumber()) return ToCurrency(value, context.UserLocale);
+    const InputText text(value, context.UserLocale);
+    return ReadCurrency(InputNormaliser(text.View(), DecimalShape(context)).Text());
+}
+
+std::optional<double> DoubleFromInput(const Variant& value, const InputContext& context) {
+    std::optional<double> number;
+    if (value.IsNumber()) {
+        number = ToDouble(value, context.UserLocale);
+    } else {
+        const InputText text(value, context.UserLocale);
+        number = ReadDouble(InputNormaliser(text.View(), DecimalShape(context)).Text());
+    }
+    if (!number || !std::isfinite(*number)) return std::nullopt;
+    return *number + 0.0;
+}
+
+} // namespace quillgrid
