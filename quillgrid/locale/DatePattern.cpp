@@ -1,63 +1,14 @@
 #include "quillgrid/locale/DatePattern.h"
 
 #include "quillgrid/base/Text.h"
+#include "quillgrid/locale/DateParts.h"
 #include "quillgrid/locale/PatternText.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quillgrid {
 
 namespace {
-
-bool StartsWith(std::string_view text, std::string_view lowerPrefix) {
-    return text.size() >= lowerPrefix.size() &&
-           std::equal(lowerPrefix.begin(), lowerPrefix.end(), text.begin(),
-                      [](char lower, char character) { return lower == LowerLetter(character); });
-}
-
-/// The length of "AM/PM" or "A/P" at the start of the text, else 0.
-std::size_t HalfDayLength(std::string_view text) {
-    for (const std::string_view name : {std::string_view("am/pm"), std::string_view("a/p")}) {
-        if (StartsWith(text, name)) return name.size();
-    }
-    return 0;
-}
-
-bool ShowsHalfDays(std::string_view pattern) {
-    if (pattern.find_first_of("aA") == std::string_view::npos) return false;
-    while (!pattern.empty()) {
-        if (HalfDayLength(pattern) > 0) return true;
-        pattern.remove_prefix(std::max<std::size_t>(ShieldedLength(pattern), 1));
-    }
-    return false;
-}
-
-struct Letter {
-    char Character;
-    std::size_t Longest;
-};
-constexpr Letter Letters[] = {{'d', 6}, {'m', 4}, {'y', 4}, {'h', 2}, {'n', 2},
-                              {'s', 2}, {'w', 2}, {'q', 1}, {'c', 1}, {'t', 5}};
-
-std::size_t LongestRun(char lower) {
-    for (const Letter& letter : Letters) {
-        if (letter.Character == lower) return letter.Longest;
-    }
-    return 0;
-}
-
-/// How many characters at the start of the text make one date part, 0 for none.
-std::size_t PartLength(std::string_view text) {
-    const char first = LowerLetter(text[0]);
-    const std::size_t longest = std::min(LongestRun(first), text.size());
-    std::size_t length = 0;
-    while (length < longest && LowerLetter(text[length]) == first)
-        ++length;
-    if (first == 'y' && length == 3) return 2;
-    if (first == 't' && length < 5) return 0;
-    return length;
-}
 
 /// Writes one point in time by patterns of one locale.
 class DateWriter {
@@ -67,7 +18,7 @@ public:
 
     void Write(std::string_view pattern) {
         const bool outerHalfDays = halfDays_;
-        halfDays_ = ShowsHalfDays(pattern);
+        halfDays_ = NamesHalfDays(pattern);
         afterHour_ = false;
         ++depth_;
         while (!pattern.empty())
@@ -88,7 +39,7 @@ private:
 
     // Writes what stands at the start of the pattern and gives its length.
     std::size_t WriteFirst(std::string_view pattern) {
-        if (const std::size_t length = PartLength(pattern); length > 0) {
+        if (const std::size_t length = DatePartLength(pattern); length > 0) {
             WritePart(LowerLetter(pattern[0]), length);
             return length;
         }

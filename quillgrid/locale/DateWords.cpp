@@ -1,6 +1,7 @@
 #include "quillgrid/locale/DateWords.h"
 
 #include "quillgrid/base/Text.h"
+#include "quillgrid/locale/PatternText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -21,9 +22,14 @@ constexpr std::string_view Afternoons[] = {"pm", "p"};
 // "16 de noviembre", "um 9:30 Uhr", and the letter between an ISO date and its time.
 constexpr std::string_view Fillers[] = {"de", "del", "der", "den", "of", "the", "le", "at", "um", "uhr", "t"};
 
+bool MayBeginAlike(char left, char right) {
+    const bool ascii = ((left | right) & 0x80) == 0;
+    return !ascii || LowerLetter(left) == LowerLetter(right);
+}
+
 bool IsName(std::string_view word, std::string_view name) {
     if (!name.empty() && name.back() == '.') name.remove_suffix(1);
-    return !name.empty() && EqualIgnoreCase(word, name);
+    return !name.empty() && MayBeginAlike(word[0], name[0]) && EqualIgnoreCase(word, name);
 }
 
 template <typename Names>

@@ -9,6 +9,7 @@
 #include "quillgrid/locale/NumberWriter.h"
 #include "quillgrid/locale/PatternKind.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillgrid {
@@ -111,7 +112,9 @@ std::string Format(const Variant& value, std::string_view pattern, const Locale&
     if (const auto named = FindNamedFormat(pattern)) {
         return IsNothing(value) ? std::string() : WriteNamed(value, *named, locale);
     }
-    if (!IsValidUtf8(pattern)) return WriteByPattern(value, RepairUtf8(pattern), locale);
+    const bool ascii =
+        std::all_of(pattern.begin(), pattern.end(), [](char byte) { return (byte & 0x80) == 0; });
+    if (!ascii && !IsValidUtf8(pattern)) return WriteByPattern(value, RepairUtf8(pattern), locale);
     return WriteByPattern(value, pattern, locale);
 }
 

@@ -1,5 +1,6 @@
 #include "quillgrid/locale/PatternKind.h"
 
+#include "quillgrid/locale/DateParts.h"
 #include "quillgrid/locale/PatternText.h"
 
 #include <algorithm>
@@ -8,27 +9,18 @@ namespace quillgrid {
 
 namespace {
 
-constexpr std::string_view DateLetters = "dmyhnswqcDMYHNSWQC";
-
 struct Seen {
     bool Places = false;
     bool Letters = false;
 };
-
-bool NamesTime(std::string_view rest) {
-    const auto startsWith = [rest](std::string_view name) { return rest.substr(0, name.size()) == name; };
-    return startsWith("ttttt") || startsWith("TTTTT") || startsWith("A/P") || startsWith("a/p");
-}
 
 Seen LookAt(std::string_view pattern) {
     Seen seen;
     while (!pattern.empty() && !(seen.Places && seen.Letters)) {
         const std::size_t shielded = ShieldedLength(pattern);
         if (shielded == 0) {
-            const char character = pattern[0];
-            seen.Places = seen.Places || character == '0' || character == '#';
-            seen.Letters =
-                seen.Letters || DateLetters.find(character) != std::string_view::npos || NamesTime(pattern);
+            seen.Places = seen.Places || pattern[0] == '0' || pattern[0] == '#';
+            seen.Letters = seen.Letters || DatePartLength(pattern) > 0 || HalfDayLength(pattern) > 0;
         }
         pattern.remove_prefix(std::max<std::size_t>(shielded, 1));
     }
