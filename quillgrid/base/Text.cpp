@@ -47,6 +47,17 @@ DecodedCharacter DecodeMultibyte(std::string_view text) {
 }
 
 template <std::size_t Count>
+constexpr bool IsOrdered(const CaseRange (&table)[Count]) {
+    for (std::size_t i = 1; i < Count; ++i) {
+        if (table[i].First <= table[i - 1].Last) return false;
+    }
+    return true;
+}
+
+static_assert(IsOrdered(CaseFolding) && IsOrdered(UpperCaseMapping) && IsOrdered(LowerCaseMapping),
+              "the look-up is a binary search");
+
+template <std::size_t Count>
 char32_t Mapped(const CaseRange (&table)[Count], char32_t character) {
     const auto after = std::upper_bound(std::begin(table), std::end(table), character,
                                         [](char32_t c, const CaseRange& range) { return c < range.First; });
