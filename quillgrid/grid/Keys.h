@@ -24,7 +24,10 @@ enum KeyCode : std::int32_t {
     KeyDown = 40,
     KeyInsert = 45,
     KeyDelete = 46,
+    KeyV = 86,
+    KeyF1 = 112,
     KeyF4 = 115,
+    KeyF12 = 123,
 };
 
 /// Held modifiers, added up.

@@ -1,0 +1,142 @@
+#include "quillgrid/grid/GridCore.h"
+
+#include "quillgrid/cells/CellAccess.h"
+#include "quillgrid/cells/CellLists.h"
+
+#include <algorithm>
+
+namespace quillgrid {
+
+GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
+    : ports_(ports),
+      Cells(this),
+      Groups(this, Cells),
+      Repaint(State, ports_.Window),
+      Events(State, ports_.Window, events),
+      View(State, ports_.Bar, Repaint),
+      Seat(State, ports_.Editor, ports_.Window, ports_.Images),
+      Commit(State, Seat, Events, Repaint, ports_.UserLocale, ports_.Time),
+      Selector(State, Commit, Seat, View, Events, Repaint),
+      Navigator(State, Commit, Selector, View, Seat, Events),
+      Stepper(State, Commit, Seat, Events, ports_.UserLocale),
+      Refresher(State, ports_, Cells, Groups, Commit, Seat, View, Repaint),
+      Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Events, ports_.UserLocale),
+      Mouse(State, Selector, Editor, Events, ports_.Images),
+      Records(State, Cells, Seat, Repaint),
+      Painter(State, ports_.Images) {
+    State.UserMode = ports_.UserMode;
+    State.Settings.Font = ports_.AmbientFont;
+    State.Settings.CellFont = ports_.AmbientFont;
+}
+
+void GridCore::Terminate() {
+    State.Terminated = true;
+    Events.Terminate();
+    Cells.SetOwner(nullptr);
+    Groups.SetOwner(nullptr);
+    State.Working = nullptr;
+    State.Current.reset();
+    State.Rows.Clear();
+}
+
+void GridCore::SettingChanged() {
+    if (!State.UserMode) Refresher.Refresh();
+}
+
+void GridCore::FocusGained() {
+    if (State.Terminated || !State.UserMode) return;
+    const bool edited = Seat.IsEdited();
+    State.Left = false;
+    if (!Selector.Select(std::max(State.CurrentRow, 1))) return;
+    if (!edited) Seat.Refill(); // selects the whole text
+}
+
+void GridCore::FocusLost() {
+    if (State.Terminated || State.CommitBusy || !State.UserMode) return;
+    const FlagGuard leaving(State.LeavingFocus);
+    const CommitResult result = Commit.Commit();
+    if (result == CommitResult::Gone) return;
+    if (result == CommitResult::Cancelled) {
+        Seat.TakeFocus();
+        return;
+    }
+    State.Left = true;
+    Seat.Hide();
+    Repaint.Row(State.CurrentRow);
+}
+
+void GridCore::AcceptAll() {
+    for (const auto& cell : Cells)
+        CellAccess::SetChanged(*cell, false);
+}
+
+void GridCore::UndoAll() {
+    for (const auto& cell : Cells)
+        cell->Undo();
+}
+
+void GridCore::RefillLanguage() {
+    for (const auto& cell : Cells)
+        RefillLanguageTexts(*cell);
+}
+
+InputSeparators GridCore::Separators() const {
+    return {State.Settings.NumSeparators, State.Settings.DateSeparators, State.Settings.TimeSeparators};
+}
+
+CellDefaults GridCore::Defaults() const {
+    const GridSettings& settings = State.Settings;
+    return {settings.CellForeColor, settings.FillColor, settings.CellFont.Bold, settings.CellFont.Italic};
+}
+
+void GridCore::SetBusyPointer(bool busy) {
+    if (!State.Terminated) ports_.Window.SetPointer(busy ? MousePointer::Busy : MousePointer::Default);
+}
+
+void GridCore::CellRemoved(Cell& cell) {
+    State.ResortNeeded = true;
+    if (State.Working == &cell) State.Working = nullptr;
+    const std::int32_t row = State.RowOf(cell);
+    if (row == 0) return;
+    const bool wasCurrent = State.Current.get() == &cell;
+    State.Rows.Remove(row);
+    if (!wasCurrent) {
+        if (row < State.CurrentRow) --State.CurrentRow;
+    } else {
+        State.CurrentRow = std::min(State.CurrentRow, State.RowCount());
+        State.Current = State.RowCell(State.CurrentRow);
+    }
+    State.FirstVisible = State.LimitedFirstVisible(State.FirstVisible);
+    Seat.Seat();
+    Repaint.Rows();
+}
+
+void GridCore::CellsCleared() {
+    State.ResortNeeded = true;
+    State.Working = nullptr;
+    State.Current.reset();
+    State.CurrentRow = 0;
+    State.FirstVisible = 1;
+    State.Rows.Clear();
+    Seat.Hide();
+}
+
+void GridCore::RepaintRow(Cell& cell) {
+    if (State.Silent || State.Terminated) return;
+    Repaint.Row(State.RowOf(cell));
+    if (State.Current.get() == &cell) Seat.Seat();
+}
+
+void GridCore::ValueUndone(Cell& cell) {
+    if (State.Current.get() == &cell) Seat.Refill();
+}
+
+void GridCore::FocusCell(Cell& cell) {
+    const auto self = shared_from_this();
+    const std::int32_t row = State.RowOf(cell);
+    if (row == 0 || !State.UserMode) return;
+    State.Left = false;
+    if (Selector.Select(row)) Seat.TakeFocus();
+}
+
+} // namespace quillgrid

@@ -1,0 +1,89 @@
+#include "quillgrid/grid/GridRefresh.h"
+
+#include "quillgrid/cells/CellAccess.h"
+#include "quillgrid/grid/DisplayOrder.h"
+#include "quillgrid/grid/GridLayout.h"
+
+#include <algorithm>
+
+namespace quillgrid {
+
+namespace {
+
+constexpr std::int32_t LeastScrollBarWidth = 14;
+
+} // namespace
+
+void GridRefresh::Refresh() {
+    if (state_.RefreshBusy || state_.Terminated) return;
+    const FlagGuard busy(state_.RefreshBusy);
+    state_.Silent = false;
+    std::shared_ptr<Cell> kept;
+    if (state_.ResortNeeded) {
+        // What is being typed belongs to its own cell, wherever that stands afterwards.
+        if (commit_.Commit() == CommitResult::Cancelled) kept = state_.Current;
+        if (state_.Terminated) return;
+        Sort();
+    }
+    for (const auto& cell : state_.Rows)
+        CellAccess::RefreshStaleText(*cell);
+    SetCurrent(kept);
+    LayOut();
+}
+
+void GridRefresh::Sort() {
+    state_.Rows.Clear();
+    for (const auto& cell : DisplayOrder(cells_, groups_, state_.Settings, ports_.UserLocale))
+        state_.Rows.Add(cell);
+    state_.ResortNeeded = false;
+}
+
+void GridRefresh::SetCurrent(const std::shared_ptr<Cell>& kept) {
+    const std::int32_t keptRow = kept ? state_.RowOf(*kept) : 0;
+    std::int32_t row = keptRow > 0 ? keptRow : state_.CurrentRow;
+    if (row < 1 || row > state_.RowCount()) row = 1;
+    state_.Current = state_.RowCell(row);
+    state_.CurrentRow = state_.Current ? row : 0;
+}
+
+void GridRefresh::LayOut() {
+    state_.Colours = ColoursOf(state_.Settings);
+    state_.Layout = Layout(state_.Settings, Measure());
+    state_.FirstVisible = state_.LimitedFirstVisible(state_.FirstVisible);
+    for (std::int32_t row = 1; row <= state_.RowCount(); ++row) {
+        CellAccess::SetArea(*state_.RowCell(row), CellArea::Value, state_.Layout.ValueArea(row - 1));
+    }
+    view_.UpdateBar();
+    view_.Reveal(state_.CurrentRow);
+    seat_.Seat();
+    seat_.KeepFocus();
+    repaint_.All();
+}
+
+LayoutMeasures GridRefresh::Measure() {
+    LayoutMeasures measures;
+    measures.Surface = ports_.Window.InnerSize();
+    measures.RowCount = state_.RowCount();
+    measures.LabelHeight = ports_.Metrics.LineHeight(state_.Settings.Font);
+    measures.CellHeight = ports_.Metrics.LineHeight(state_.Settings.CellFont);
+    measures.ScrollBarWidth = std::max(ports_.Desktop.ScrollBarWidth(), LeastScrollBarWidth);
+    if (state_.Settings.LabelWidth <= 0) measures.WidestCaption = WidestCaption();
+    return measures;
+}
+
+std::int32_t GridRefresh::WidestCaption() {
+    std::int32_t widest = 0;
+    for (const auto& cell : cells_) {
+        if (cell->Template() == qgctGroup) continue;
+        const std::string& caption = CellAccess::Label(std::as_const(*cell)).DisplayCaption();
+        widest = std::max(widest, widths_.WidthOf(state_.Settings.Font, caption));
+    }
+    return widest;
+}
+
+void GridRefresh::Resize() {
+    if (ports_.Window.InnerSize() != Size{state_.Layout.Control.Right, state_.Layout.Control.Bottom})
+        Refresh();
+}
+
+} // namespace quillgrid

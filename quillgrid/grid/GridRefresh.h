@@ -1,0 +1,53 @@
+#pragma once
+
+#include "quillgrid/cells/Cells.h"
+#include "quillgrid/cells/Groups.h"
+#include "quillgrid/grid/CaptionWidths.h"
+#include "quillgrid/grid/CellCommit.h"
+#include "quillgrid/grid/EditSeat.h"
+#include "quillgrid/grid/GridPorts.h"
+#include "quillgrid/grid/GridState.h"
+#include "quillgrid/grid/RepaintRequests.h"
+#include "quillgrid/grid/Viewport.h"
+
+namespace quillgrid {
+
+/// Brings rows, layout, scroll bar and edit box in line with cells and settings, and asks for a repaint.
+class GridRefresh {
+public:
+    GridRefresh(GridState& state, const GridPorts& ports, const Cells& cells, const Groups& groups,
+                CellCommit& commit, EditSeat& seat, Viewport& view, RepaintRequests& repaint)
+        : state_(state),
+          ports_(ports),
+          cells_(cells),
+          groups_(groups),
+          widths_(ports.Metrics),
+          commit_(commit),
+          seat_(seat),
+          view_(view),
+          repaint_(repaint) {}
+
+    /// A call within a call does nothing. Ends Silent.
+    void Refresh();
+    /// The surface may have another size: lays out if so.
+    void Resize();
+
+private:
+    void Sort();
+    void SetCurrent(const std::shared_ptr<Cell>& kept);
+    void LayOut();
+    LayoutMeasures Measure();
+    std::int32_t WidestCaption();
+
+    GridState& state_;
+    const GridPorts& ports_;
+    const Cells& cells_;
+    const Groups& groups_;
+    CaptionWidths widths_;
+    CellCommit& commit_;
+    EditSeat& seat_;
+    Viewport& view_;
+    RepaintRequests& repaint_;
+};
+
+} // namespace quillgrid

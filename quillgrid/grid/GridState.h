@@ -1,0 +1,65 @@
+#pragma once
+
+#include "quillgrid/cells/Cell.h"
+#include "quillgrid/cells/SortedCells.h"
+#include "quillgrid/grid/EffectiveColours.h"
+#include "quillgrid/grid/GridLayout.h"
+#include "quillgrid/grid/GridSettings.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace quillgrid {
+
+/// What the collaborators of the control share: plain values, and questions about them. After every raised
+/// event whoever works on a cell asks again whether it is still there.
+struct GridState {
+    GridSettings Settings;
+    SortedCells Rows;
+    std::shared_ptr<Cell> Current;
+    Cell* Working = nullptr; ///< the cell whose input is being converted stands in for the current one
+    std::int32_t CurrentRow = 0;
+    std::int32_t FirstVisible = 1;
+    GridLayout Layout;
+    EffectiveColours Colours;
+    std::string CurrentGroup;
+    bool UserMode = true;
+    bool Silent = false;
+    bool ResortNeeded = true;
+    bool RefreshBusy = false;
+    bool CommitBusy = false;
+    bool LeavingFocus =
+        false;               ///< the focus is just going: what the commit changes still counts as the user's
+    bool Left = false;       ///< the focus has gone: the edit box stays hidden until it is back
+    bool Terminated = false; ///< the control is gone; only the calls under way still see this state
+
+    std::int32_t LastVisible() const;
+    bool IsInView(std::int32_t row) const { return row >= FirstVisible && row <= LastVisible(); }
+    /// The row limited to what a scroll position may be.
+    std::int32_t LimitedFirstVisible(std::int32_t row) const;
+    std::int32_t RowCount() const { return Rows.Count(); }
+    /// The cell of a row (1-based), null outside.
+    std::shared_ptr<Cell> RowCell(std::int32_t row) const;
+    /// The row of a cell, 0 when it is not shown.
+    std::int32_t RowOf(const Cell& cell) const;
+    /// Where the row is seen; empty when it is out of view.
+    Rect RowArea(std::int32_t row) const;
+    Rect ValueArea(std::int32_t row) const;
+    bool IsCurrent(const Cell& cell) const { return !Terminated && Current.get() == &cell; }
+};
+
+/// Sets a flag for as long as it lives, exceptions included.
+class FlagGuard {
+public:
+    explicit FlagGuard(bool& flag, bool value = true) : flag_(flag), before_(flag) { flag_ = value; }
+    ~FlagGuard() { flag_ = before_; }
+    FlagGuard(const FlagGuard&) = delete;
+    FlagGuard& operator=(const FlagGuard&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
+} // namespace quillgrid

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "quillgrid/hosts/headless/Journal.h"
+#include "quillgrid/platform/Surface.h"
+
+#include <string>
+#include <vector>
+
+namespace quillgrid::headless {
+
+/// Which part of the control has the keyboard focus.
+enum class FocusPlace { Outside, Surface, EditBox };
+
+/// A window that remembers what was asked of it.
+class FakeSurface : public Surface {
+public:
+    FakeSurface(Journal& journal, FocusPlace& focus) : journal_(journal), focus_(focus) {}
+
+    Size Inner{300, 200};
+    std::vector<Rect> Invalid; ///< areas that wait to be painted
+    std::string Tooltip;
+    MousePointer Pointer = MousePointer::Default;
+    int Beeps = 0;
+
+    Size InnerSize() const override { return Inner; }
+    void Invalidate(const Rect& area) override;
+    bool HasFocus() const override { return focus_ != FocusPlace::Outside; }
+    void Focus() override { focus_ = FocusPlace::Surface; }
+    void SetPointer(MousePointer pointer) override { Pointer = pointer; }
+    void SetTooltip(std::string_view text) override { Tooltip = text; }
+    void Beep() override { ++Beeps; }
+
+private:
+    Journal& journal_;
+    FocusPlace& focus_;
+};
+
+} // namespace quillgrid::headless

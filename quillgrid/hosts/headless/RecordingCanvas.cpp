@@ -1,0 +1,64 @@
+#include "quillgrid/hosts/headless/RecordingCanvas.h"
+
+#include "quillgrid/hosts/headless/TextOf.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillgrid::headless {
+
+namespace {
+
+constexpr const char* EdgeNames[] = {"flat", "sunken", "raised", "sunken-outer", "raised-inner", "etched"};
+constexpr const char* AlignmentNames[] = {"left", "right", "centre"};
+
+std::string StyleText(const TextStyle& style) {
+    std::string text = TextOf(style.Ink) + " " + AlignmentNames[style.Alignment];
+    if (style.TextFont.Bold) text += " bold";
+    if (style.TextFont.Italic) text += " italic";
+    return text;
+}
+
+} // namespace
+
+void RecordingCanvas::Fill(const Rect& area, Colour colour) {
+    calls_.push_back("fill " + TextOf(area) + " " + TextOf(colour));
+}
+
+void RecordingCanvas::Line(Point from, Point to, Colour colour) {
+    calls_.push_back("line " + TextOf(Rect{from.X, from.Y, to.X, to.Y}) + " " + TextOf(colour));
+}
+
+void RecordingCanvas::Edge(const Rect& area, EdgeKind kind) {
+    calls_.push_back("edge " + TextOf(area) + " " + EdgeNames[static_cast<int>(kind)]);
+}
+
+void RecordingCanvas::PushButton(const Rect& area, bool pressed) {
+    calls_.push_back("button " + TextOf(area) + (pressed ? " pressed" : ""));
+}
+
+void RecordingCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {
+    calls_.push_back("text " + TextOf(area) + " '" + std::string(text) + "' " + StyleText(style));
+    texts_.emplace_back(text);
+}
+
+void RecordingCanvas::Image(const Rect& area, const Picture&) {
+    calls_.push_back("image " + TextOf(area));
+}
+
+void RecordingCanvas::SetClip(const Rect& area) {
+    calls_.push_back("clip " + TextOf(area));
+}
+
+void RecordingCanvas::ClearClip() {
+    calls_.emplace_back("clip off");
+}
+
+std::vector<std::string> RecordingCanvas::Starting(std::string_view start) const {
+    std::vector<std::string> lines;
+    std::copy_if(calls_.begin(), calls_.end(), std::back_inserter(lines),
+                 [&](const std::string& line) { return line.starts_with(start); });
+    return lines;
+}
+
+} // namespace quillgrid::headless
