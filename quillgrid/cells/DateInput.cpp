@@ -35,8 +35,8 @@ void CompleteDate(InputNormaliser& typed, std::int32_t today) {
     const char month[] = {'/', DigitOf(date.Month / 10), DigitOf(date.Month)};
     const char year[] = {'/', DigitOf(date.Year / 1000), DigitOf(date.Year / 100), DigitOf(date.Year / 10),
                          DigitOf(date.Year)};
-    if (typed.Separators() == 0) typed.Result().Append({month, sizeof month});
-    typed.Result().Append({year, sizeof year});
+    if (typed.Separators() == 0) typed.Append({month, sizeof month});
+    typed.Append({year, sizeof year});
 }
 
 /// Completed parts stand behind the typed ones: the day alone is always the first part, and a year-first
@@ -63,15 +63,13 @@ std::optional<std::int32_t> DayFromText(std::string_view text, const InputContex
 
 void CompleteTime(InputNormaliser& typed) {
     constexpr std::string_view missing = ":00:00";
-    typed.Result().Append(missing.substr(static_cast<std::size_t>(typed.Separators()) * 3));
+    typed.Append(missing.substr(static_cast<std::size_t>(typed.Separators()) * 3));
 }
 
 // Midnight may be typed as the end of the day.
 void ReplaceHour24(InputNormaliser& typed) {
     if (typed.Text().substr(0, 2) != "24") return;
-    char* const hour = typed.Result().First();
-    hour[0] = '0';
-    hour[1] = '0';
+    typed.ReplaceStart("00");
 }
 
 std::optional<std::int32_t> SecondFromText(std::string_view text, const InputContext& context) {

@@ -36,7 +36,7 @@ struct InputContext {
 /// The one conversion of an assigned or typed value into the value of a cell. `value` is replaced when the
 /// result is 0; otherwise it stays as it was, except that a text under rule none is cut to MaxLength even
 /// when the result is 20011. Results: 0, 20001, 20002, 20003, 20008, 20010, 20011. Work is linear in the
-/// length of the text; no allocation for numbers, dates and times of fewer than 345 kept characters.
+/// length of the text; no allocation for numbers, dates and times of up to 344 bytes.
 ValidationErrConstants ConvertInput(Variant& value, const InputRules& rules, const InputContext& context);
 
 } // namespace quillgrid

@@ -6,40 +6,6 @@
 
 namespace quillgrid {
 
-/// A short text that grows to the left, with room for a suffix on its right. Lives on the stack; only more
-/// characters than any value has take memory.
-class LeftwardText {
-public:
-    LeftwardText() = default;
-    LeftwardText(const LeftwardText&) = delete;
-    LeftwardText& operator=(const LeftwardText&) = delete;
-
-    void Prepend(char character) {
-        if (begin_ == data_) Grow();
-        *--begin_ = character;
-    }
-    /// At most `SuffixRoom` characters in all.
-    void Append(std::string_view suffix);
-    std::string_view View() const { return {begin_, static_cast<std::size_t>(end_ - begin_)}; }
-    /// Only while the text is not empty.
-    char* First() { return begin_; }
-
-    static constexpr std::size_t SuffixRoom = 8;
-
-private:
-    void Grow();
-
-    // Enough for every digit of the largest double and two decimals.
-    static constexpr std::size_t InlineRoom = 344;
-
-    char inline_[InlineRoom + SuffixRoom]; // left as it is: clearing it would cost more than most conversions
-    std::unique_ptr<char[]> spill_;
-    char* data_ = inline_;
-    char* end_ = inline_ + InlineRoom;
-    char* begin_ = end_;
-    std::size_t room_ = InlineRoom;
-};
-
 /// Which characters of a typed text matter under a rule.
 struct InputShape {
     char Separator = 0; ///< what every kept separator becomes
@@ -49,25 +15,35 @@ struct InputShape {
 };
 
 /// Rebuilds a typed text from the characters that matter, from right to left: of several separators the last
-/// ones typed count. Linear in the length of the text.
+/// ones typed count. Linear in the length of the text; only texts longer than any value take memory.
 class InputNormaliser {
 public:
     InputNormaliser(std::string_view text, const InputShape& shape);
+    InputNormaliser(const InputNormaliser&) = delete;
+    InputNormaliser& operator=(const InputNormaliser&) = delete;
 
     /// A minus (numbers only), digits and the shape's separators.
-    std::string_view Text() const { return result_.View(); }
-    /// How many separators the text has.
+    std::string_view Text() const { return {begin_, static_cast<std::size_t>(end_ - begin_)}; }
+    /// How many separators were typed.
     int Separators() const { return separators_; }
-    /// For completing what was typed.
-    LeftwardText& Result() { return result_; }
+
+    /// Completes what was typed: `SuffixRoom` characters at most, in all.
+    void Append(std::string_view suffix);
+    /// Replaces as many characters as `start` has; the text has at least as many.
+    void ReplaceStart(std::string_view start);
+
+    static constexpr std::size_t SuffixRoom = 8;
 
 private:
-    std::size_t TakeMark(std::string_view text, bool last);
-    bool Separates(char32_t mark, bool first, bool last) const;
-    bool IsSeparatorCharacter(char32_t mark) const;
+    char* MakeRoom(std::size_t characters);
 
-    const InputShape shape_;
-    LeftwardText result_;
+    // Enough for the largest double with two decimals and a unit.
+    static constexpr std::size_t InlineRoom = 344;
+
+    char inline_[InlineRoom + SuffixRoom]; // left as it is: clearing it would cost more than most conversions
+    std::unique_ptr<char[]> spill_;
+    char* begin_;
+    char* end_;
     int separators_ = 0;
 };
 
