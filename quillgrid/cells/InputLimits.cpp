@@ -11,16 +11,18 @@ namespace {
 template <typename T>
 using Reader = std::optional<T> (*)(const Variant&, const Locale&);
 
-template <typename T>
-std::optional<T> Bound(const Variant* bound, Reader<T> read, const Locale& locale) {
-    if (!bound || bound->IsNull() || bound->IsEmpty()) return std::nullopt;
-    return read(*bound, locale);
+bool IsSet(const Variant* bound) {
+    return bound && !bound->IsNull() && !bound->IsEmpty();
 }
 
 template <typename T>
 T Limit(T value, const InputRules& rules, Reader<T> read, const Locale& locale) {
-    if (const auto least = Bound(rules.Min, read, locale); least && value < *least) return *least;
-    if (const auto most = Bound(rules.Max, read, locale); most && value > *most) return *most;
+    if (IsSet(rules.Min)) {
+        if (const auto least = read(*rules.Min, locale); least && value < *least) return *least;
+    }
+    if (IsSet(rules.Max)) {
+        if (const auto most = read(*rules.Max, locale); most && value > *most) return *most;
+    }
     return value;
 }
 
@@ -60,12 +62,12 @@ std::int32_t LimitDay(std::int32_t day, const InputRules& rules, const Locale& l
 
 std::optional<std::int32_t> LimitSecond(std::int32_t second, const InputRules& rules, const Locale& locale) {
     const DateTime time{0, second};
-    if (const auto earliest = Bound<DateTime>(rules.Min, ValidDateTime, locale);
-        earliest && time < *earliest) {
-        return std::nullopt;
+    if (IsSet(rules.Min)) {
+        if (const auto earliest = ValidDateTime(*rules.Min, locale); earliest && time < *earliest) return {};
     }
-    if (const auto latest = Bound<DateTime>(rules.Max, ValidDateTime, locale); latest && time > *latest) {
-        return latest->Second;
+    if (IsSet(rules.Max)) {
+        if (const auto latest = ValidDateTime(*rules.Max, locale); latest && time > *latest)
+            return latest->Second;
     }
     return second;
 }

@@ -6,6 +6,7 @@
 #include "quillgrid/cells/InputText.h"
 #include "quillgrid/locale/Coercion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -30,15 +31,18 @@ std::optional<std::int32_t> ReadLong(std::string_view plain) {
     if (!HasDigits(plain)) return 0;
     std::int32_t number = 0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), number);
-    return result.ec == std::errc() ? std::optional(number) : std::nullopt;
+    if (result.ec != std::errc()) return std::nullopt;
+    return number;
 }
 
 std::optional<Currency> ReadCurrency(std::string_view plain) {
-    return HasDigits(plain) ? Currency::FromDecimal(plain) : Currency();
+    if (!HasDigits(plain)) return Currency();
+    return Currency::FromDecimal(plain);
 }
 
 std::optional<double> ReadDouble(std::string_view plain) {
-    return HasDigits(plain) ? DoubleFromDecimal(plain) : 0.0;
+    if (!HasDigits(plain)) return 0.0;
+    return DoubleFromDecimal(plain);
 }
 
 } // namespace
