@@ -1,6 +1,8 @@
 #pragma once
 
+#ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
 #include "quillgrid/grid/Quillgrid.h"
+#endif
 
 #include <QWidget>
 

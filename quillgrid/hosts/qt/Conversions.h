@@ -1,0 +1,41 @@
+// The small steps between the control's values and Qt's.
+#pragma once
+
+#include "quillgrid/base/Rect.h"
+#include "quillgrid/platform/Font.h"
+
+#include <QFont>
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace quillgrid::qt {
+
+inline QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline std::string FromQString(const QString& text) {
+    return text.toStdString();
+}
+
+/// Sides that lie in the wrong order give an empty rectangle.
+inline QRect ToQRect(const Rect& area) {
+    return area.IsEmpty() ? QRect() : QRect(area.Left, area.Top, area.Width(), area.Height());
+}
+inline Rect FromQRect(const QRect& area) {
+    return {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()};
+}
+inline Point FromQPoint(QPoint point) {
+    return {point.x(), point.y()};
+}
+
+/// The description of a Qt font, its size in points however it was set.
+Font FromQFont(const QFont& font);
+/// The font meant by a description. What the description leaves as it is in `host` (family, size, hinting)
+/// is taken from there, so that a form keeps the exact font of its window.
+QFont ToQFont(const Font& font, const QFont& host);
+
+} // namespace quillgrid::qt

@@ -1,0 +1,62 @@
+#include "quillgrid/hosts/qt/GridLineEdit.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+namespace quillgrid::qt {
+
+GridLineEdit::GridLineEdit(QWidget* parent) : QLineEdit(parent) {
+    setFrame(false);
+    setAcceptDrops(false); // a drop would pass the gate by
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void GridLineEdit::PasteGuarded() {
+    TakeOrRefuse(QGuiApplication::clipboard()->text());
+}
+
+void GridLineEdit::TakeOrRefuse(const QString& text) {
+    if (isReadOnly() || !PasteAllowed()) {
+        Refuse();
+    } else if (!text.isEmpty()) {
+        TakeText(text);
+    }
+}
+
+void GridLineEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste)) {
+        event->accept();
+        return PasteGuarded();
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void GridLineEdit::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    if (!menu) return;
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
+        paste->disconnect(this);
+        paste->setEnabled(paste->isEnabled() && PasteAllowed());
+        connect(paste, &QAction::triggered, this, &GridLineEdit::PasteGuarded);
+    }
+    menu->popup(event->globalPos());
+}
+
+void GridLineEdit::mouseReleaseEvent(QMouseEvent* event) {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
+        return QLineEdit::mouseReleaseEvent(event);
+    }
+    event->accept();
+    const QString text = clipboard->text(QClipboard::Selection); // before the click drops our own selection
+    if (!isReadOnly() && PasteAllowed()) setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    TakeOrRefuse(text);
+}
+
+} // namespace quillgrid::qt

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+
+namespace quillgrid::qt {
+
+/// The edit box: a line edit whose every way of putting text in passes a gate that the host sets. Keys go
+/// through the host's event filter.
+class GridLineEdit : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit GridLineEdit(QWidget* parent);
+
+    /// Asked before a paste from keyboard, menu or mouse.
+    std::function<bool()> PasteAllowed = [] { return true; };
+    /// Takes pasted text in.
+    std::function<void(const QString&)> TakeText = [this](const QString& text) { insert(text); };
+    /// A paste was refused.
+    std::function<void()> Refuse = [] {};
+
+    /// Pastes from the clipboard, or refuses.
+    void PasteGuarded();
+    /// Hands the event to the line edit as it stands.
+    void Compose(QInputMethodEvent* event) { QLineEdit::inputMethodEvent(event); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void TakeOrRefuse(const QString& text);
+};
+
+} // namespace quillgrid::qt

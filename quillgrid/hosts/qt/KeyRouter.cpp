@@ -1,0 +1,137 @@
+#include "quillgrid/hosts/qt/KeyRouter.h"
+
+#include "quillgrid/grid/Keys.h"
+#include "quillgrid/grid/Quillgrid.h"
+#include "quillgrid/hosts/qt/GridLineEdit.h"
+#include "quillgrid/hosts/qt/KeyTranslation.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+namespace quillgrid::qt {
+
+namespace {
+
+constexpr char32_t EnterCharacter = 13;
+
+/// The code point that a key types; Enter, Backspace and Escape are their control characters everywhere.
+char32_t CharacterOf(const QKeyEvent& event) {
+    switch (KeyCodeOf(event)) {
+    case KeyEnter: return EnterCharacter;
+    case KeyBackspace: return KeyBackspace;
+    case KeyEscape: return KeyEscape;
+    default: break;
+    }
+    const auto characters = event.text().toUcs4();
+    return characters.size() == 1 ? characters.front() : 0;
+}
+
+bool IsControlCharacter(char32_t character) {
+    return character < 32 || (character >= 127 && character < 160);
+}
+
+} // namespace
+
+KeyRouter::KeyRouter(Quillgrid& grid, GridLineEdit& edit) : grid_(grid), edit_(edit) {
+    edit_.installEventFilter(this);
+}
+
+bool KeyRouter::KeyDown(const QKeyEvent& event) {
+    const QPointer<KeyRouter> alive(this);
+    if (!IsModifierKey(event)) BeforeInput();
+    const std::int32_t code = KeyCodeOf(event);
+    if (code != 0 && grid_.KeyDown(code, ShiftStateOf(event))) return true;
+    if (!alive) return true;
+    return TypeKey(event) || !alive;
+}
+
+bool KeyRouter::TypeKey(const QKeyEvent& event) {
+    if (!IsTyping(event)) return LeaveByControlTab(event);
+    const char32_t typed = CharacterOf(event);
+    if (typed == 0) { // several characters on one key
+        TypeText(event.text());
+        return true;
+    }
+    const QPointer<KeyRouter> alive(this);
+    char32_t character = typed;
+    if (grid_.KeyPress(character) || !alive) return true;
+    if (character == typed || IsControlCharacter(character)) return false;
+    if (!edit_.isReadOnly()) edit_.insert(QString::fromUcs4(&character, 1));
+    return true;
+}
+
+bool KeyRouter::LeaveByControlTab(const QKeyEvent& event) {
+    if (KeyCodeOf(event) != KeyTab || !event.modifiers().testFlag(Qt::ControlModifier)) return false;
+    // The box gives a plain Tab to the window, which moves the focus.
+    const bool back = event.modifiers().testFlag(Qt::ShiftModifier) || event.key() == Qt::Key_Backtab;
+    const Qt::KeyboardModifiers held = back ? Qt::ShiftModifier : Qt::NoModifier;
+    QKeyEvent plain(QEvent::KeyPress, back ? Qt::Key_Backtab : Qt::Key_Tab, held);
+    if (QWidget* focus = QApplication::focusWidget()) static_cast<QObject*>(focus)->event(&plain);
+    return true;
+}
+
+void KeyRouter::KeyUp(const QKeyEvent& event) {
+    const std::int32_t code = KeyCodeOf(event);
+    if (!event.isAutoRepeat()) grid_.KeyUp(code, ShiftStateOf(event));
+}
+
+void KeyRouter::TypeText(const QString& text) {
+    const QPointer<KeyRouter> alive(this);
+    for (const char32_t typed : text.toUcs4()) {
+        if (IsControlCharacter(typed)) continue;
+        if (grid_.KeyDown(KeyOfOtherCharacter, ShiftNone) || !alive) return; // full, or not wanted
+        char32_t character = typed;
+        const bool used = grid_.KeyPress(character);
+        if (!alive) return;
+        if (!used && character != 0 && !edit_.isReadOnly()) edit_.insert(QString::fromUcs4(&character, 1));
+    }
+}
+
+bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != &edit_) return false;
+    switch (event->type()) {
+    case QEvent::ShortcutOverride: return Override(static_cast<QKeyEvent*>(event));
+    case QEvent::KeyPress: return Press(static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease: return Release(static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod: return Compose(static_cast<QInputMethodEvent*>(event));
+    default: return false;
+    }
+}
+
+bool KeyRouter::Override(QKeyEvent* event) {
+    if (!ClaimsBeforeShortcuts(*event)) return false;
+    event->accept();
+    return true;
+}
+
+bool KeyRouter::Press(QKeyEvent* event) {
+    if (!KeyDown(*event)) return false;
+    event->accept();
+    return true;
+}
+
+bool KeyRouter::Release(QKeyEvent* event) {
+    KeyUp(*event);
+    event->accept();
+    return true;
+}
+
+// The box may keep what is still being composed; what is finished is typed like any other text.
+bool KeyRouter::Compose(QInputMethodEvent* event) {
+    if (event->commitString().isEmpty()) return false;
+    const QPointer<KeyRouter> alive(this);
+    BeforeInput();
+    QInputMethodEvent end;
+    end.setCommitString({}, event->replacementStart(), event->replacementLength());
+    edit_.Compose(&end);
+    TypeText(event->commitString());
+    if (alive && !event->preeditString().isEmpty()) {
+        QInputMethodEvent rest(event->preeditString(), event->attributes());
+        edit_.Compose(&rest);
+    }
+    event->accept();
+    return true;
+}
+
+} // namespace quillgrid::qt

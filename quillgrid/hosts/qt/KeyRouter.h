@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class QInputMethodEvent;
+class QKeyEvent;
+class QWidget;
+
+namespace quillgrid {
+class Quillgrid;
+}
+
+namespace quillgrid::qt {
+
+class GridLineEdit;
+
+/// Stands before the edit box and hands every key and every character to the control first, whichever way it
+/// comes: keyboard, input method or paste. A key may destroy the whole widget: nothing is touched after that.
+class KeyRouter : public QObject {
+public:
+    /// Both must outlive the router.
+    KeyRouter(Quillgrid& grid, GridLineEdit& edit);
+
+    /// Called before each key that is not only a modifier.
+    std::function<void()> BeforeInput = [] {};
+
+    /// True: the control used the key. Also for keys that reach the control while its edit box is hidden.
+    bool KeyDown(const QKeyEvent& event);
+    void KeyUp(const QKeyEvent& event);
+    /// Types a text character by character.
+    void TypeText(const QString& text);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool Press(QKeyEvent* event);
+    bool Release(QKeyEvent* event);
+    bool Override(QKeyEvent* event);
+    bool Compose(QInputMethodEvent* event);
+    bool TypeKey(const QKeyEvent& event);
+    bool LeaveByControlTab(const QKeyEvent& event);
+
+    Quillgrid& grid_;
+    GridLineEdit& edit_;
+};
+
+} // namespace quillgrid::qt

@@ -1,0 +1,142 @@
+#include "quillgrid/hosts/qt/QtCanvas.h"
+
+#include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/QtPicture.h"
+#include "quillgrid/hosts/qt/QtTheme.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+namespace quillgrid::qt {
+
+namespace {
+
+/// Top left and bottom right of a one pixel ring; `None` draws nothing.
+struct Ring {
+    Colour TopLeft;
+    Colour BottomRight;
+};
+
+constexpr Colour None = 0xFFFFFFFFU;
+constexpr Ring NoRing{None, None};
+
+struct EdgeRow {
+    Ring Outer;
+    Ring Inner;
+};
+
+// In the order of EdgeKind.
+constexpr std::array<EdgeRow, 6> Edges{{
+    {{ColourButtonShadow, ColourButtonShadow}, NoRing},
+    {{ColourButtonShadow, ColourButtonHighlight}, {ColourDarkShadow, ColourLight3D}},
+    {{ColourButtonHighlight, ColourDarkShadow}, {ColourLight3D, ColourButtonShadow}},
+    {{ColourButtonShadow, ColourButtonHighlight}, NoRing},
+    {{ColourButtonHighlight, ColourButtonShadow}, NoRing},
+    {{ColourButtonShadow, ColourButtonHighlight}, {ColourButtonHighlight, ColourButtonShadow}},
+}};
+
+Qt::Alignment HorizontalAlignment(AlignmentConstants alignment) {
+    switch (alignment) {
+    case qgalRightJustify: return Qt::AlignRight;
+    case qgalCenter: return Qt::AlignHCenter;
+    default: return Qt::AlignLeft;
+    }
+}
+
+/// Without these a tab or line break in a value would leave its line.
+QString OnOneLine(QString text) {
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
+/// What is wider than any screen is not worth shaping.
+constexpr qsizetype LongestText = 10'000;
+
+} // namespace
+
+QtCanvas::QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font)
+    : painter_(painter),
+      palette_(palette),
+      font_(font),
+      given_(painter.clipRegion()),
+      clipped_(painter.hasClipping()) {}
+
+void QtCanvas::Fill(const Rect& area, Colour colour) {
+    if (!area.IsEmpty()) painter_.fillRect(ToQRect(area), ToQColor(colour, palette_));
+}
+
+void QtCanvas::Line(Point from, Point to, Colour colour) {
+    if (from.Y == to.Y) {
+        Fill({std::min(from.X, to.X), from.Y, std::max(from.X, to.X), from.Y + 1}, colour);
+    } else {
+        Fill({from.X, std::min(from.Y, to.Y), from.X + 1, std::max(from.Y, to.Y)}, colour);
+    }
+}
+
+void QtCanvas::Frame(const Rect& area, Colour topLeft, Colour bottomRight) {
+    if (area.IsEmpty() || topLeft == None) return;
+    Fill({area.Left, area.Top, area.Right, area.Top + 1}, topLeft);
+    Fill({area.Left, area.Top + 1, area.Left + 1, area.Bottom}, topLeft);
+    Fill({area.Left + 1, area.Bottom - 1, area.Right, area.Bottom}, bottomRight);
+    Fill({area.Right - 1, area.Top + 1, area.Right, area.Bottom - 1}, bottomRight);
+}
+
+void QtCanvas::Edge(const Rect& area, EdgeKind kind) {
+    const auto index = static_cast<std::size_t>(kind);
+    if (index >= Edges.size()) return;
+    Frame(area, Edges[index].Outer.TopLeft, Edges[index].Outer.BottomRight);
+    Frame(area.Shrunk(1), Edges[index].Inner.TopLeft, Edges[index].Inner.BottomRight);
+}
+
+void QtCanvas::PushButton(const Rect& area, bool pressed) {
+    if (area.IsEmpty()) return;
+    const QColor face = palette_.color(QPalette::Button);
+    painter_.fillRect(ToQRect(area), pressed ? Mixed(face, Qt::black, 0.12) : face);
+    Edge(area, pressed ? EdgeKind::SunkenOuter : EdgeKind::Raised);
+}
+
+void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {
+    if (area.IsEmpty() || text.empty()) return;
+    QString shown = ToQString(text.substr(0, std::min<std::size_t>(text.size(), 4 * LongestText)));
+    shown.truncate(LongestText);
+    const int flags = style.WordWrap ? static_cast<int>(Qt::AlignTop | Qt::TextWordWrap)
+                                     : static_cast<int>(Qt::AlignVCenter | Qt::TextSingleLine);
+    painter_.save();
+    painter_.setClipRect(ToQRect(area), Qt::IntersectClip);
+    painter_.setFont(ToQFont(style.TextFont, font_));
+    painter_.setPen(ToQColor(style.Ink, palette_));
+    painter_.drawText(ToQRect(area), flags | static_cast<int>(HorizontalAlignment(style.Alignment)),
+                      style.WordWrap ? shown : OnOneLine(shown));
+    painter_.restore();
+}
+
+void QtCanvas::Image(const Rect& area, const Picture& picture) {
+    const auto* drawable = dynamic_cast<const QtPicture*>(&picture);
+    if (!drawable || area.IsEmpty()) return;
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    drawable->Draw(painter_, QRectF(ToQRect(area)), palette_);
+    painter_.restore();
+}
+
+void QtCanvas::SetClip(const Rect& area) {
+    ClearClip();
+    painter_.setClipRect(ToQRect(area), clipped_ ? Qt::IntersectClip : Qt::ReplaceClip);
+}
+
+void QtCanvas::ClearClip() {
+    if (clipped_) {
+        painter_.setClipRegion(given_);
+    } else {
+        painter_.setClipping(false);
+    }
+}
+
+} // namespace quillgrid::qt

@@ -1,0 +1,129 @@
+#include "quillgrid/hosts/qt/QtEditBox.h"
+
+#include "quillgrid/base/Text.h"
+#include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/GridLineEdit.h"
+#include "quillgrid/hosts/qt/QtTheme.h"
+
+#include <QStyle>
+
+#include <algorithm>
+
+namespace quillgrid::qt {
+
+namespace {
+
+/// Characters in the first `units` UTF-16 units.
+std::size_t CharactersIn(const QString& text, qsizetype units) {
+    std::size_t count = 0;
+    for (qsizetype i = 0; i < std::min(units, text.size()); ++i) {
+        const bool secondHalf = text[i].isLowSurrogate() && i > 0 && text[i - 1].isHighSurrogate();
+        if (!secondHalf) ++count;
+    }
+    return count;
+}
+
+/// UTF-16 units of the first `characters` characters.
+int UnitsOf(const QString& text, std::size_t characters) {
+    qsizetype unit = 0;
+    for (; characters > 0 && unit < text.size(); --characters) {
+        const bool pair =
+            text[unit].isHighSurrogate() && unit + 1 < text.size() && text[unit + 1].isLowSurrogate();
+        unit += pair ? 2 : 1;
+    }
+    return static_cast<int>(unit);
+}
+
+Qt::Alignment BoxAlignment(AlignmentConstants alignment) {
+    const Qt::Alignment side = alignment == qgalRightJustify ? Qt::AlignRight
+                               : alignment == qgalCenter     ? Qt::AlignHCenter
+                                                             : Qt::AlignLeft;
+    return side | Qt::AlignVCenter | Qt::AlignAbsolute;
+}
+
+} // namespace
+
+QtEditBox::~QtEditBox() {
+    if (style_) edit_.setStyle(nullptr);
+}
+
+std::string QtEditBox::Text() const {
+    return FromQString(edit_.text());
+}
+
+void QtEditBox::SetText(std::string_view text) {
+    edit_.setText(ToQString(text));
+    edit_.setCursorPosition(0);
+}
+
+std::size_t QtEditBox::SelectionStart() const {
+    const int start = edit_.hasSelectedText() ? edit_.selectionStart() : edit_.cursorPosition();
+    return CharactersIn(edit_.text(), start);
+}
+
+std::size_t QtEditBox::SelectionLength() const {
+    if (!edit_.hasSelectedText()) return 0;
+    return CharactersIn(edit_.text(), edit_.selectionEnd()) - SelectionStart();
+}
+
+void QtEditBox::Select(std::size_t start, std::size_t length) {
+    const QString text = edit_.text();
+    const int first = UnitsOf(text, start);
+    const int last = UnitsOf(text, start + std::min(length, static_cast<std::size_t>(text.size())));
+    edit_.setCursorPosition(first);
+    edit_.setSelection(first, last - first);
+}
+
+void QtEditBox::SetLook(const Look& look) {
+    if (look == look_) return;
+    look_ = look;
+    Dress();
+}
+
+void QtEditBox::AmbientChanged() {
+    styledMask_.clear();
+    Dress();
+}
+
+void QtEditBox::Dress() {
+    QPalette palette = owner_.palette();
+    palette.setColor(QPalette::Base, ToQColor(look_.Paper, owner_.palette()));
+    palette.setColor(QPalette::Text, ToQColor(look_.Ink, owner_.palette()));
+    edit_.setPalette(palette);
+    edit_.setFont(ToQFont(look_.TextFont, owner_.font()));
+    edit_.setAlignment(BoxAlignment(look_.Alignment));
+    edit_.setReadOnly(look_.ReadOnly);
+    ApplyMask();
+}
+
+void QtEditBox::ApplyMask() {
+    edit_.setEchoMode(look_.Mask.empty() ? QLineEdit::Normal : QLineEdit::Password);
+    if (look_.Mask.empty() || look_.Mask == styledMask_) return;
+    const char32_t mask = DecodeFirst(look_.Mask).Character;
+    // The box paints its mask in single UTF-16 units.
+    auto style =
+        std::make_unique<MaskStyle>(owner_.style()->name(), mask > 0xFFFF ? '*' : static_cast<int>(mask));
+    edit_.setStyle(style.get());
+    style_ = std::move(style);
+    styledMask_ = look_.Mask;
+}
+
+void QtEditBox::Place(const Rect& area) {
+    edit_.setGeometry(ToQRect(area));
+    edit_.setVisible(!area.IsEmpty());
+    if (area.IsEmpty()) return;
+    if (owner_.focusProxy() != &edit_) owner_.setFocusProxy(&edit_);
+}
+
+void QtEditBox::Hide() {
+    // Qt passes the focus of a box that hides on to the next control of the window.
+    owner_.setFocusProxy(nullptr);
+    if (edit_.hasFocus()) owner_.setFocus(Qt::OtherFocusReason);
+    edit_.hide();
+}
+
+void QtEditBox::Focus() {
+    RequestFocus();
+}
+
+} // namespace quillgrid::qt

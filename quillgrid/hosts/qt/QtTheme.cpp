@@ -1,0 +1,133 @@
+#include "quillgrid/hosts/qt/QtTheme.h"
+
+#include "quillgrid/hosts/qt/Conversions.h"
+
+#include <QFontDatabase>
+#include <QPalette>
+#include <QStyle>
+#include <QWidget>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace quillgrid::qt {
+
+namespace {
+
+constexpr std::int32_t NarrowestScrollBar = 14;
+
+/// A system colour: a role of the palette, mixed with black or white.
+struct ShadeRow {
+    QPalette::ColorRole Role;
+    double LightPalette = 0.0; ///< share of white, or of black when negative
+    double DarkPalette = 0.0;
+};
+
+// In the order of the system colours' numbers.
+constexpr std::array<ShadeRow, 31> Shades{{
+    {QPalette::Window, -0.06, 0.06},  // scroll bar
+    {QPalette::Highlight},            // desktop: the filled part of percent bars, under highlight text
+    {QPalette::Highlight},            // active caption
+    {QPalette::Window, -0.12, 0.10},  // inactive caption
+    {QPalette::Window},               // menu
+    {QPalette::Base},                 // window
+    {QPalette::Window, -0.45, 0.35},  // window frame
+    {QPalette::WindowText},           // menu text
+    {QPalette::Text},                 // window text
+    {QPalette::HighlightedText},      // caption text
+    {QPalette::Window, -0.12, 0.10},  // active border
+    {QPalette::Window, -0.12, 0.10},  // inactive border
+    {QPalette::Window, -0.25, -0.3},  // application workspace
+    {QPalette::Highlight},            // highlight
+    {QPalette::HighlightedText},      // highlight text
+    {QPalette::Window},               // button face
+    {QPalette::Window, -0.28, 0.20},  // button shadow
+    {QPalette::PlaceholderText},      // grey text
+    {QPalette::ButtonText},           // button text
+    {QPalette::WindowText},           // inactive caption text
+    {QPalette::Window, 0.75, 0.12},   // button highlight
+    {QPalette::Window, -0.50, -0.45}, // 3D dark shadow
+    {QPalette::Window, 0.35, 0.06},   // 3D light
+    {QPalette::ToolTipText},          // info text
+    {QPalette::ToolTipBase},          // info background
+    {QPalette::Window},               // not used
+    {QPalette::Link},                 // hot light
+    {QPalette::Highlight},            // active caption, far end
+    {QPalette::Window, -0.12, 0.10},  // inactive caption, far end
+    {QPalette::Highlight},            // menu highlight
+    {QPalette::Window},               // menu bar
+}};
+
+QColor Shaded(const ShadeRow& row, const QPalette& palette) {
+    const QColor colour = palette.color(row.Role);
+    const double share = IsDark(palette) ? row.DarkPalette : row.LightPalette;
+    return Mixed(colour, share < 0 ? QColor(Qt::black) : QColor(Qt::white), std::abs(share));
+}
+
+/// Grey text may be half transparent; it is drawn over the window colour.
+QColor Opaque(const QColor& colour, const QPalette& palette) {
+    if (colour.alpha() == 255) return colour;
+    return Mixed(palette.color(QPalette::Base), QColor(colour.rgb()), colour.alphaF());
+}
+
+QString WithoutFoundry(const QString& family) {
+    const auto bracket = family.lastIndexOf(QLatin1String(" ["));
+    return bracket > 0 && family.endsWith(QLatin1Char(']')) ? family.left(bracket) : family;
+}
+
+} // namespace
+
+QColor Mixed(const QColor& under, const QColor& over, double share) {
+    const auto mix = [share](int low, int high) {
+        return std::clamp(static_cast<int>(std::lround(low + (high - low) * share)), 0, 255);
+    };
+    return {mix(under.red(), over.red()), mix(under.green(), over.green()), mix(under.blue(), over.blue())};
+}
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+QColor ToQColor(Colour colour, const QPalette& palette) {
+    if (!IsSystemColour(colour)) {
+        return {static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
+                static_cast<int>((colour >> 16U) & 0xFFU)};
+    }
+    const std::size_t index = colour & 0xFFU;
+    return Opaque(Shaded(index < Shades.size() ? Shades[index] : ShadeRow{QPalette::Text}, palette), palette);
+}
+
+Colour QtTheme::Resolve(Colour colour) const {
+    if (!IsSystemColour(colour)) return colour;
+    const QColor found = ToQColor(colour, widget_.palette());
+    return Rgb(static_cast<std::uint32_t>(found.red()), static_cast<std::uint32_t>(found.green()),
+               static_cast<std::uint32_t>(found.blue()));
+}
+
+std::int32_t QtTheme::ScrollBarWidth() const {
+    const int width = widget_.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget_);
+    return std::max(NarrowestScrollBar, width);
+}
+
+std::vector<std::string> QtTheme::ScreenFonts() const {
+    std::vector<std::string> names;
+    for (const QString& family : QFontDatabase::families()) {
+        if (QFontDatabase::isPrivateFamily(family)) continue;
+        std::string name = FromQString(WithoutFoundry(family));
+        if (names.empty() || names.back() != name) names.push_back(std::move(name));
+    }
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
+}
+
+// Printing is a module of its own; a host that has it hands its printers over through a theme of its own.
+std::vector<std::string> QtTheme::PrinterFonts() const {
+    return {};
+}
+std::vector<std::string> QtTheme::Printers() const {
+    return {};
+}
+
+} // namespace quillgrid::qt

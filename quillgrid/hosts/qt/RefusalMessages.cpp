@@ -1,0 +1,74 @@
+#include "quillgrid/hosts/qt/RefusalMessages.h"
+
+#include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/ErrorBubble.h"
+
+#include <QTimer>
+
+#include <algorithm>
+
+namespace quillgrid::qt {
+
+namespace {
+
+/// The messages exist in German and, this much further on, in English.
+constexpr std::int32_t EnglishMessages = 1000;
+
+bool SpeaksGerman(LanguageConstants language) {
+    return language == qglgDefault || language == qglgGerman;
+}
+
+} // namespace
+
+QString RefusalMessages::TextFor(const Cell& cell, ValidationErrConstants code) const {
+    const QString own = Source ? Source(cell, code) : QString();
+    if (!own.isEmpty()) return own;
+    return ToQString(grid_.ErrorMessage(SpeaksGerman(grid_.Language()) ? code : code + EnglishMessages));
+}
+
+void RefusalMessages::Refused(const Cell& cell, ValidationErrConstants code) {
+    Say(&cell, TextFor(cell, code));
+}
+
+void RefusalMessages::Say(const Cell* cell, const QString& text) {
+    cell_ = cell;
+    const Cell* shown = VisibleCell(cell);
+    if (!shown) return Dismiss();
+    bubble_.Say(text, ToQRect(grid_.ValueArea(*shown)), Duration);
+    fresh_ = true;
+    QTimer::singleShot(0, &bubble_, [this] { fresh_ = false; });
+}
+
+void RefusalMessages::Dismiss() {
+    cell_ = nullptr;
+    bubble_.Dismiss();
+}
+
+QString RefusalMessages::ShownText() const {
+    return bubble_.Text();
+}
+
+void RefusalMessages::CurrentCellChanged() {
+    if (!fresh_) Dismiss();
+}
+
+void RefusalMessages::Follow() {
+    if (bubble_.isHidden()) return;
+    const Cell* cell = VisibleCell(cell_);
+    const QRect area = cell ? ToQRect(grid_.ValueArea(*cell)) : QRect();
+    if (area.isEmpty()) return Dismiss();
+    bubble_.PointAt(area);
+}
+
+const Cell* RefusalMessages::VisibleCell(const void* wanted) const {
+    if (!wanted) return nullptr;
+    const std::int32_t first = std::max(1, grid_.FirstVisibleRow());
+    const std::int32_t last = std::min(grid_.RowCount(), first + grid_.VisibleRows());
+    for (std::int32_t row = first; row <= last; ++row) {
+        const Cell* cell = grid_.RowCell(row);
+        if (cell == wanted) return cell;
+    }
+    return nullptr;
+}
+
+} // namespace quillgrid::qt

@@ -1,0 +1,121 @@
+#include "quillgrid/hosts/qt/WidgetHost.h"
+
+#include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/QtLocale.h"
+
+#include <QPointer>
+
+namespace quillgrid::qt {
+
+WidgetHost::WidgetHost(QuillgridWidget& widget)
+    : widget_(widget),
+      edit_(std::make_unique<GridLineEdit>(&widget)),
+      bar_(std::make_unique<QScrollBar>(Qt::Vertical, &widget)),
+      bubble_(std::make_unique<ErrorBubble>(&widget)),
+      Metrics(widget),
+      Desktop(widget),
+      Window(widget),
+      Editor(*edit_, widget),
+      Bar(*bar_),
+      AmbientFont(FromQFont(widget.font())),
+      Grid(Ports()),
+      Refusals(Grid, *bubble_),
+      Focus(widget),
+      Keys(Grid, *edit_) {
+    edit_->hide();
+    bar_->hide();
+    bar_->setFocusPolicy(Qt::NoFocus);
+    ConnectChildren();
+    ConnectRefusals();
+    ConnectEvents();
+    AcceptLocalSeparators();
+}
+
+// A late focus or text change of a child must find nobody to tell.
+WidgetHost::~WidgetHost() {
+    Focus.disconnect();
+    Focus.Left = [] {};
+    Focus.Entered = [] {};
+    edit_->removeEventFilter(&Keys);
+    bar_->disconnect();
+}
+
+GridPorts WidgetHost::Ports() {
+    return {.Window = Window,
+            .Editor = Editor,
+            .Bar = Bar,
+            .Metrics = Metrics,
+            .Time = Time,
+            .Desktop = Desktop,
+            .UserLocale = LocaleFromQt(widget_.locale()),
+            .AmbientFont = AmbientFont,
+            .Images = &Images};
+}
+
+void WidgetHost::ConnectChildren() {
+    Window.IsEntered = [this] { return Focus.IsEntered(); };
+    Window.RequestFocus = Editor.RequestFocus = [this] { Focus.Request(); };
+    Focus.Entered = [this] { Grid.FocusGained(); };
+    Focus.Left = [this] { Grid.FocusLost(); };
+    Keys.BeforeInput = [this] { Refusals.Dismiss(); };
+    edit_->PasteAllowed = [this] { return Grid.PasteAllowed(); };
+    edit_->TakeText = [this](const QString& text) { Keys.TypeText(text); };
+    edit_->Refuse = [this] {
+        Window.Beep();
+        Q_EMIT widget_.beep();
+    };
+    QObject::connect(bar_.get(), &QScrollBar::valueChanged, bar_.get(), [this](int value) {
+        Refusals.Dismiss();
+        Grid.ScrollTo(value);
+    });
+}
+
+void WidgetHost::ConnectRefusals() {
+    Grid.ValidateCellError.Listen([this](Cell& cell, ValidationErrConstants& code, bool& cancel) {
+        const QPointer<QuillgridWidget> alive(&widget_);
+        const std::shared_ptr<Cell> held = cell.shared_from_this();
+        const ValidationErrConstants refused = code; // a handler may change its copy
+        Q_EMIT widget_.validateCellError(&cell, refused, &cancel);
+        if (alive) Refusals.Refused(*held, refused);
+    });
+    Grid.SelChange.Listen([this](Cell& cell) {
+        Refusals.CurrentCellChanged();
+        Q_EMIT widget_.selChange(&cell);
+    });
+}
+
+void WidgetHost::ConnectEvents() {
+    Grid.ValidateCell.Listen(
+        [this](Cell& cell, bool& cancel) { Q_EMIT widget_.validateCell(&cell, &cancel); });
+    Grid.Change.Listen([this](Cell& cell) { Q_EMIT widget_.change(&cell); });
+    Grid.Beep.Listen([this] { Q_EMIT widget_.beep(); });
+    Grid.LeaveFocus.Listen([this](Cell& cell) { Q_EMIT widget_.leaveFocus(&cell); });
+    Grid.ImageClick.Listen([this](Cell& cell) { Q_EMIT widget_.imageClick(&cell); });
+}
+
+// What the locale writes can be typed: a Swedish date has "-" between its parts.
+void WidgetHost::AcceptLocalSeparators() {
+    const Locale locale = LocaleFromQt(widget_.locale());
+    const auto with = [](std::string known, const std::string& local) {
+        return known.find(local) == std::string::npos ? known + local : known;
+    };
+    Grid.SetDateSeparators(with(Grid.DateSeparators(), locale.DateSeparator));
+    Grid.SetTimeSeparators(with(Grid.TimeSeparators(), locale.TimeSeparator));
+    Grid.SetNumSeparators(with(Grid.NumSeparators(), locale.DecimalSeparator));
+}
+
+void WidgetHost::FontChanged() {
+    const Font before = std::exchange(AmbientFont, FromQFont(widget_.font()));
+    Metrics.Forget();
+    if (Grid.Font() == before) Grid.SetFont(AmbientFont);
+    if (Grid.CellFont() == before) Grid.SetCellFont(AmbientFont);
+    LookChanged();
+}
+
+void WidgetHost::LookChanged() {
+    Editor.AmbientChanged();
+    Grid.Refresh();
+    Refusals.Follow();
+}
+
+} // namespace quillgrid::qt

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "quillgrid/grid/Quillgrid.h"
+#include "quillgrid/hosts/qt/ErrorBubble.h"
+#include "quillgrid/hosts/qt/FocusTracker.h"
+#include "quillgrid/hosts/qt/GridLineEdit.h"
+#include "quillgrid/hosts/qt/KeyRouter.h"
+#include "quillgrid/hosts/qt/QtClock.h"
+#include "quillgrid/hosts/qt/QtEditBox.h"
+#include "quillgrid/hosts/qt/QtImageSource.h"
+#include "quillgrid/hosts/qt/QtScrollBar.h"
+#include "quillgrid/hosts/qt/QtSurface.h"
+#include "quillgrid/hosts/qt/QtTextMetrics.h"
+#include "quillgrid/hosts/qt/QtTheme.h"
+#include "quillgrid/hosts/qt/QuillgridWidget.h"
+#include "quillgrid/hosts/qt/RefusalMessages.h"
+#include "quillgrid/hosts/qt/WheelSteps.h"
+
+#include <QScrollBar>
+
+namespace quillgrid::qt {
+
+/// What a widget is made of: the child widgets, the ports over them, the control, and the paths between. The
+/// members stand in the order in which they need each other; they go in the reverse order.
+class WidgetHost {
+public:
+    explicit WidgetHost(QuillgridWidget& widget);
+    ~WidgetHost();
+    WidgetHost(const WidgetHost&) = delete;
+    WidgetHost& operator=(const WidgetHost&) = delete;
+
+    /// Fonts follow the widget's unless the form set its own.
+    void FontChanged();
+    void LookChanged();
+
+private:
+    GridPorts Ports();
+    void ConnectChildren();
+    void ConnectRefusals();
+    void ConnectEvents();
+    void AcceptLocalSeparators();
+
+    QuillgridWidget& widget_;
+
+    // The children are owned here, not by the widget's list of children: the ports end before them.
+    std::unique_ptr<GridLineEdit> edit_;
+    std::unique_ptr<QScrollBar> bar_;
+    std::unique_ptr<ErrorBubble> bubble_;
+
+public:
+    QtTextMetrics Metrics;
+    QtTheme Desktop;
+    QtClock Time;
+    QtImageSource Images;
+    QtSurface Window;
+    QtEditBox Editor;
+    QtScrollBar Bar;
+    Font AmbientFont;
+    Quillgrid Grid;
+    RefusalMessages Refusals;
+    FocusTracker Focus;
+    KeyRouter Keys;
+    WheelSteps Wheel;
+};
+
+} // namespace quillgrid::qt
