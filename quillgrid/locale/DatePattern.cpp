@@ -133,7 +133,15 @@ private:
     void WriteGeneralNested() {
         if (MayNest()) WriteGeneral();
     }
+    void WriteTwoDigits(int number, std::size_t width) {
+        if (width == 2 || number >= 10) out_ += static_cast<char>('0' + number / 10);
+        out_ += static_cast<char>('0' + number % 10);
+    }
     void WriteNumber(int number, std::size_t width) {
+        if (number < 100 && width <= 2) {
+            WriteTwoDigits(number, width);
+            return;
+        }
         char digits[12];
         std::size_t count = 0;
         for (int rest = number; rest > 0 || count < width; rest /= 10) {
