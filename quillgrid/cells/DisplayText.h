@@ -14,8 +14,8 @@ class CurrencyConverter;
 /// What a cell says about the look of its value. Views into the cell.
 struct DisplayRules {
     ValidationRuleConstants Rule = qgvrNone;
-    std::string_view Format; ///< empty: the plain form of the rule
-    std::string_view Unit;   ///< currency code beside format "Currency", else appended after a blank
+    std::string_view Format{}; ///< empty: the plain form of the rule
+    std::string_view Unit{};   ///< currency code beside format "Currency", else appended after a blank
 };
 
 /// A value as it is shown: by the format with the unit, else by the rule; rule none and rules without a form

@@ -22,13 +22,13 @@ struct InputRules {
     std::int32_t MaxLength = 50; ///< characters; only rule none is cut; negative counts as 0
     const Variant* Min = nullptr;
     const Variant* Max = nullptr;
-    std::string_view Charlist; ///< allowed characters, empty allows all
+    std::string_view Charlist{}; ///< allowed characters, empty allows all
     bool AllowEmpty = true;
 };
 
 /// The user's surroundings: how the locale writes dates, and today's date for completing them.
 struct InputContext {
-    InputSeparators Separators;
+    InputSeparators Separators{};
     const Locale& UserLocale;
     std::int32_t Today = 0; ///< day number
 };

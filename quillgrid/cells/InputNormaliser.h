@@ -10,8 +10,8 @@ namespace quillgrid {
 struct InputShape {
     char Separator = 0; ///< what every kept separator becomes
     int MostSeparators = 0;
-    std::string_view SeparatorCharacters; ///< in any case
-    bool IsNumber = true;                 ///< else a date or a time: blanks, "+" and "-" separate too
+    std::string_view SeparatorCharacters{}; ///< in any case
+    bool IsNumber = true;                   ///< else a date or a time: blanks, "+" and "-" separate too
 };
 
 /// Rebuilds a typed text from the characters that matter, from right to left: of several separators the last
