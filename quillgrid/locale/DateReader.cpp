@@ -3,6 +3,7 @@
 #include "quillgrid/locale/DateText.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <span>
 
 namespace quillgrid {
@@ -14,30 +15,24 @@ using Numbers = std::span<const Number>;
 
 constexpr int LeastYearDigits = 3;
 
-/// Takes one to `mostDigits` digits from the start of the text.
-bool TakeNumber(std::string_view& text, int mostDigits, Number& number) {
-    const char* const begin = text.data();
-    const char* const end = begin + std::min(text.size(), static_cast<std::size_t>(mostDigits));
-    const char* at = begin;
-    std::int32_t value = 0;
-    for (; at != end && *at >= '0' && *at <= '9'; ++at)
-        value = value * 10 + (*at - '0');
-    number.Value = value;
-    number.Digits = static_cast<int>(at - begin);
-    text.remove_prefix(static_cast<std::size_t>(at - begin));
-    return at != begin;
-}
-
-/// Three runs of digits with exactly `separator` between them and nothing else.
-bool ReadThree(std::string_view text, char separator, int mostDigits, Number (&numbers)[3]) {
-    const auto takeSeparator = [&] {
-        if (text.empty() || text.front() != separator) return false;
-        text.remove_prefix(1);
-        return true;
-    };
-    return TakeNumber(text, mostDigits, numbers[0]) && takeSeparator() &&
-           TakeNumber(text, mostDigits, numbers[1]) && takeSeparator() &&
-           TakeNumber(text, mostDigits, numbers[2]) && text.empty();
+/// Three runs of one to `mostDigits` digits with exactly `separator` between them and nothing else.
+bool ReadThree(std::string_view text, char separator, std::ptrdiff_t mostDigits, Number (&numbers)[3]) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    for (Number& number : numbers) {
+        const char* const begin = at;
+        const char* const limit = begin + std::min(end - begin, mostDigits);
+        std::int32_t value = 0;
+        for (; at != limit && *at >= '0' && *at <= '9'; ++at)
+            value = value * 10 + (*at - '0');
+        if (at == begin) return false;
+        number.Value = value;
+        number.Digits = static_cast<int>(at - begin);
+        if (&number == &numbers[2]) break;
+        if (at == end || *at != separator) return false;
+        ++at;
+    }
+    return at == end;
 }
 
 std::optional<std::int32_t> DayOf(std::int32_t typedYear, std::int32_t month, std::int32_t day) {
@@ -179,7 +174,7 @@ std::optional<int> ExpandYear(std::int64_t typed) {
 }
 
 std::optional<std::int32_t> ReadDateParts(std::string_view text, DateOrder order) {
-    constexpr int mostDigits = 9;
+    constexpr std::ptrdiff_t mostDigits = 9;
     Number numbers[3];
     if (!ReadThree(text, '/', mostDigits, numbers)) return std::nullopt;
     return DayOfThree(numbers, order);

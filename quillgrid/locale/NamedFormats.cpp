@@ -3,7 +3,6 @@
 #include "quillgrid/locale/PatternText.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace quillgrid {
 
@@ -33,20 +32,19 @@ constexpr Name Names[] = {
     {"long time", NamedFormat::LongTime},
 };
 
+// Both texts are of the same length.
 bool IsName(std::string_view lowerName, std::string_view text) {
-    return lowerName.size() == text.size() && lowerName[0] == LowerLetter(text[0]) &&
-           std::equal(text.begin(), text.end(), lowerName.begin(),
+    return std::equal(text.begin(), text.end(), lowerName.begin(),
                       [](char typed, char lower) { return LowerLetter(typed) == lower; });
 }
 
 } // namespace
 
 std::optional<NamedFormat> FindNamedFormat(std::string_view name) {
-    if (name.empty()) return std::nullopt;
-    const auto found = std::find_if(std::begin(Names), std::end(Names),
-                                    [name](const Name& candidate) { return IsName(candidate.Text, name); });
-    if (found == std::end(Names)) return std::nullopt;
-    return found->Format;
+    for (const Name& candidate : Names) {
+        if (candidate.Text.size() == name.size() && IsName(candidate.Text, name)) return candidate.Format;
+    }
+    return std::nullopt;
 }
 
 } // namespace quillgrid
