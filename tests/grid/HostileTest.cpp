@@ -1,0 +1,232 @@
+// Handlers that do the worst at the worst moment. What must hold is said by the sanitizers and by the few
+// invariants below.
+#include "quillgrid/grid/Keys.h"
+#include "quillgrid/hosts/headless/HeadlessHost.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+namespace quillgrid {
+namespace {
+
+using headless::HeadlessHost;
+
+using Deed = std::function<void(HeadlessHost&)>;
+struct NamedDeed {
+    const char* Name;
+    Deed Run;
+};
+
+const NamedDeed Deeds[] = {
+    {"nothing", [](HeadlessHost&) {}},
+    {"clear", [](HeadlessHost& host) { host.Grid->Clear(); }},
+    {"clear and refill",
+     [](HeadlessHost& host) {
+         host.Grid->Clear();
+         host.Grid->Add({.Key = "fresh", .Value = Variant("fresh")});
+         host.Grid->Refresh();
+     }},
+    {"remove the current cell",
+     [](HeadlessHost& host) {
+         if (host.Grid->Cell()) host.Grid->Cells().Remove(host.Grid->Cell()->Key());
+     }},
+    {"remove the first cell",
+     [](HeadlessHost& host) {
+         if (host.Grid->Cells().Count() > 0) host.Grid->Cells().Remove(1);
+     }},
+    {"refresh", [](HeadlessHost& host) { host.Grid->Refresh(); }},
+    {"hide all and refresh",
+     [](HeadlessHost& host) {
+         for (const auto& cell : host.Grid->Cells())
+             cell->SetVisible(false);
+         host.Grid->SetSorted(true);
+         host.Grid->Refresh();
+     }},
+    {"sort backwards",
+     [](HeadlessHost& host) {
+         int caption = 99;
+         for (const auto& cell : host.Grid->Cells())
+             cell->SetCaption(std::to_string(caption--));
+         host.Grid->SetSorted(true);
+         host.Grid->Refresh();
+     }},
+    {"select another row",
+     [](HeadlessHost& host) {
+         if (host.Grid->Cells().Count() > 0) host.Grid->Cells().Item(1)->SetFocus();
+     }},
+    {"new record", [](HeadlessHost& host) { host.Grid->AddNew(); }},
+    {"undo", [](HeadlessHost& host) { host.Grid->Undo(); }},
+    {"set a value",
+     [](HeadlessHost& host) {
+         if (host.Grid->Cell()) host.Grid->Cell()->SetValue(Variant("7"));
+     }},
+    {"commit", [](HeadlessHost& host) { host.Grid->CommitEdit(); }},
+    {"lose the focus", [](HeadlessHost& host) { host.LeaveControl(); }},
+    {"resize",
+     [](HeadlessHost& host) {
+         host.ResizeTo({1, 1});
+     }},
+    {"destroy", [](HeadlessHost& host) { host.Grid.reset(); }},
+    {"throw", [](HeadlessHost&) { throw std::runtime_error("handler"); }},
+};
+
+/// Connects the deed to one of the events; it is done once.
+using Connect = std::function<void(Quillgrid&, std::function<void()>)>;
+struct NamedEvent {
+    const char* Name;
+    Connect To;
+};
+
+const NamedEvent Events[] = {
+    {"ValidateCellError",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.ValidateCellError.Listen([run](Cell&, ValidationErrConstants&, bool& cancel) {
+             cancel = true;
+             run();
+         });
+     }},
+    {"ValidateCell",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.ValidateCell.Listen([run](Cell&, bool&) { run(); });
+     }},
+    {"SelChange",
+     [](Quillgrid& grid, std::function<void()> run) { grid.SelChange.Listen([run](Cell&) { run(); }); }},
+    {"Change",
+     [](Quillgrid& grid, std::function<void()> run) { grid.Change.Listen([run](Cell&) { run(); }); }},
+    {"Beep", [](Quillgrid& grid, std::function<void()> run) { grid.Beep.Listen(run); }},
+    {"KeyPress",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.KeyPressed.Listen([run](Cell&, std::int16_t&) { run(); });
+     }},
+    {"KeyDown",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.KeyWentDown.Listen([run](Cell&, std::int16_t&, std::int16_t&) { run(); });
+     }},
+    {"KeyUp",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.KeyWentUp.Listen([run](Cell&, std::int16_t&, std::int16_t&) { run(); });
+     }},
+    {"LeaveFocus",
+     [](Quillgrid& grid, std::function<void()> run) { grid.LeaveFocus.Listen([run](Cell&) { run(); }); }},
+    {"ImageClick",
+     [](Quillgrid& grid, std::function<void()> run) { grid.ImageClick.Listen([run](Cell&) { run(); }); }},
+};
+
+void Fill(HeadlessHost& host) {
+    for (const char* image : {"checked", "unchecked", "phone"})
+        host.Images.Add(image);
+    Quillgrid& grid = *host.Grid;
+    grid.SetAllowWrap(false);
+    grid.Add({.Key = "date", .Value = Variant(DateTime{46000, 0}), .CellTemplate = qgctDate});
+    grid.Add({.Key = "flag", .Value = Variant(true), .CellTemplate = qgctboolean});
+    grid.Add({.Key = "phone", .Value = Variant("1"), .CellTemplate = qgctPhone});
+    const auto list = grid.Add({.Key = "list", .Value = Variant("a"), .CellTemplate = qgctlist});
+    for (const char* text : {"a", "b"})
+        list->Listitems().Add({.Text = text});
+    grid.Add({.Key = "count", .Value = Variant(5), .CellTemplate = qgctInteger});
+    grid.Refresh();
+}
+
+/// Every way in that raises events; each step may find the control gone.
+void Use(HeadlessHost& host) {
+    const std::function<void()> steps[] = {
+        [&] { host.EnterControl(); },
+        [&] { host.Type("1.2.x+"); },
+        [&] { host.Press(KeyEnter); },
+        [&] {
+            host.Grid->MouseDown({40, 30});
+        },
+        [&] {
+            host.Grid->MouseDown({20, 48});
+        },
+        [&] { host.Press(quillgrid::KeyDown); },
+        [&] { host.Type("b"); },
+        [&] { host.Press(KeyTab); },
+        [&] { host.Type("99999999999"); },
+        [&] { host.Press(KeyTab); },
+        [&] { host.Press(KeyEscape); },
+        [&] { host.Type("3"); },
+        [&] { host.Press(quillgrid::KeyDown); },
+        [&] { host.Grid->ScrollTo(3); },
+        [&] { host.Type("4"); },
+        [&] { host.LeaveControl(); },
+    };
+    for (const auto& step : steps) {
+        if (!host.Grid) return;
+        try {
+            step();
+        } catch (const std::runtime_error&) {
+        }
+    }
+}
+
+void ExpectConsistent(HeadlessHost& host) {
+    Quillgrid& grid = *host.Grid;
+    EXPECT_EQ(grid.Silent(), false);
+    Cell* current = grid.Cell();
+    EXPECT_EQ(current, grid.RowCell(grid.CurrentRow()));
+    if (current) {
+        EXPECT_EQ(grid.Cells().Find(current->Key()).get(), current);
+    } else {
+        EXPECT_FALSE(host.Box.Visible);
+    }
+    for (const auto& cell : grid.Cells())
+        EXPECT_EQ(cell->ErrorCode(), qgErrNone);
+    grid.Refresh();
+    host.Paint();
+    for (std::int32_t row = 1; row <= grid.RowCount(); ++row)
+        EXPECT_EQ(grid.RowCell(row)->Index(), row);
+}
+
+TEST(Hostile, AnyDeedInAnyEventLeavesAControlThatWorksOrNone) {
+    for (const NamedEvent& event : Events) {
+        for (const NamedDeed& deed : Deeds) {
+            SCOPED_TRACE(std::string(deed.Name) + " in " + event.Name);
+            HeadlessHost host({300, 82});
+            Fill(host);
+            bool busy = false;
+            int times = 0;
+            event.To(*host.Grid, [&] {
+                if (busy) return;
+                busy = true;
+                ++times;
+                const std::unique_ptr<bool, void (*)(bool*)> over(&busy, [](bool* flag) { *flag = false; });
+                deed.Run(host);
+            });
+            Use(host);
+            EXPECT_GT(times, 0) << "the event never came";
+            if (host.Grid) ExpectConsistent(host);
+        }
+    }
+}
+
+TEST(Hostile, CellsOutliveTheControlHarmlessly) {
+    HeadlessHost host;
+    Fill(host);
+    const auto cell = host.Grid->Cells().Item("date");
+    host.Grid.reset();
+    cell->SetValue(Variant("1.1.2026"));
+    cell->SetFocus();
+    cell->Refresh();
+    cell->Undo();
+}
+
+TEST(Hostile, AnExceptionInValidationLeavesNoErrorBehind) {
+    HeadlessHost host;
+    Fill(host);
+    host.EnterControl();
+    auto connection = host.Grid->ValidateCellError.Connect(
+        [](Cell&, ValidationErrConstants&, bool&) { throw std::runtime_error("handler"); });
+    host.Type("99.99.");
+    EXPECT_THROW(host.Press(KeyEnter), std::runtime_error);
+    EXPECT_TRUE(host.Grid->Valid());
+    EXPECT_EQ(host.Box.CurrentLook.Ink, ColourWindowText);
+    connection.Disconnect();
+    host.Press(KeyEnter); // the commit is not stuck
+    EXPECT_EQ(host.Grid->Cell()->Key(), "flag");
+}
+
+} // namespace
+} // namespace quillgrid
