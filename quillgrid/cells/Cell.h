@@ -25,7 +25,7 @@ struct DefineArguments {
 };
 
 struct DataArguments {
-    Variant NewValue;
+    Variant NewValue{};
     ValidationRuleConstants NewValidationRule = qgvrNone;
     std::string newFormat{};
     std::int32_t newMaxLength = 50;

@@ -9,8 +9,10 @@
 #include "quillgrid/platform/Theme.h"
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillgrid {
@@ -71,12 +73,14 @@ std::vector<FontEntry> InstalledFonts(const Theme& desktop) {
 std::vector<FontEntry> FontsToShow(const CellOwner& owner) {
     if (!owner.UserMode()) return {{"Arial", CommonFont}};
     if (!owner.Desktop()) return {};
-    auto fonts = InstalledFonts(*owner.Desktop());
-    std::stable_sort(fonts.begin(), fonts.end(),
-                     [&locale = owner.UserLocale()](const auto& left, const auto& right) {
-                         return locale.Compare(left.Name, right.Name) < 0;
-                     });
-    return fonts;
+    const auto byName = [&locale = owner.UserLocale()](const auto& left, const auto& right) {
+        return locale.Compare(left.Name, right.Name) < 0;
+    };
+    // Equal names keep their order; and unlike a sort, a tree comes to no harm from a host's odd comparison.
+    std::multiset<FontEntry, decltype(byName)> sorted(byName);
+    for (auto& font : InstalledFonts(*owner.Desktop()))
+        sorted.insert(std::move(font));
+    return {sorted.begin(), sorted.end()};
 }
 
 /// Shows the busy pointer while it lives.

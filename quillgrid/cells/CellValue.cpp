@@ -61,7 +61,8 @@ Variant Cell::Value() const {
 void Cell::SetValue(Variant value) {
     const auto alive = weak_from_this().lock();
     if (IsList() && !IsBoolean() && std::as_const(*this).Listitems().Count() == 0) {
-        SetRare(&CellExtras::ItemData, value); // entries may come later
+        SetRare(&CellExtras::ItemData, value); // entries may come later and are then searched for it
+        state_.ListIndex = -1;
         StoreValue(std::move(value));
         return;
     }

@@ -21,6 +21,7 @@ public:
     template <std::convertible_to<std::string_view> Text>
     ItemKey(const Text& key) : key_(key), isKey_(true) {}
     ItemKey(const Variant& indexKey);
+    ItemKey(std::nullptr_t) = delete;
 
     bool IsKey() const { return isKey_; }
     std::string_view Key() const { return key_; }

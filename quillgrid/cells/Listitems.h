@@ -13,7 +13,7 @@
 namespace quillgrid {
 
 struct ListitemArguments {
-    std::string Text;
+    std::string Text{};
     std::optional<Variant> ItemData{};  ///< the text when not given
     std::optional<Variant> ListImage{}; ///< Null when not given
     std::int32_t Indent = 0;            ///< taken as given

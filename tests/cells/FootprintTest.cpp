@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <iostream>
 #include <malloc.h>
 #include <new>
 
@@ -16,17 +17,18 @@ std::size_t liveBytes = 0;
 
 } // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined: the compiler would take malloc and free for a mismatch with new and delete.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     void* memory = std::malloc(size == 0 ? 1 : size);
     if (!memory) throw std::bad_alloc();
     liveBytes += malloc_usable_size(memory);
     return memory;
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     if (memory) liveBytes -= malloc_usable_size(memory);
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
     operator delete(memory);
 }
 
