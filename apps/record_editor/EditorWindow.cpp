@@ -1,0 +1,357 @@
+#include "apps/record_editor/EditorWindow.h"
+
+#include "apps/record_editor/ToolIcons.h"
+
+#include "quillgrid/hosts/qt/QtLocale.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillgrid::editor {
+namespace {
+
+EditorWindow::Answer AskInABox(QWidget* parent) {
+    const auto button = QMessageBox::question(parent, QStringLiteral("Unsaved changes"),
+                                              QStringLiteral("This record was changed. Save the changes?"),
+                                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                              QMessageBox::Save);
+    if (button == QMessageBox::Save) return EditorWindow::Answer::Save;
+    return button == QMessageBox::Discard ? EditorWindow::Answer::Discard : EditorWindow::Answer::Cancel;
+}
+
+FormSettings SettingsFor(const QLocale& locale) {
+    struct Row {
+        QLocale::Language Qt;
+        LanguageConstants Quillgrid;
+    };
+    static constexpr std::array<Row, 4> languages{{{QLocale::German, qglgGerman},
+                                                   {QLocale::French, qglgFrench},
+                                                   {QLocale::Italian, qglgItalian},
+                                                   {QLocale::Spanish, qglgSpanish}}};
+    FormSettings settings{quillgrid::qt::LocaleFromQt(locale), qglgEnglish,
+                          locale.name().section(u'_', 0, 0)};
+    for (const Row& row : languages) {
+        if (row.Qt == locale.language()) settings.Language = row.Quillgrid;
+    }
+    return settings;
+}
+
+QLabel* MakeLine(QWidget* parent) {
+    auto* line = new QLabel(parent);
+    line->setWordWrap(true);
+    line->setTextFormat(Qt::PlainText);
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->setMargin(6);
+    line->setAutoFillBackground(true);
+    line->hide();
+    return line;
+}
+
+/// A tint of the window's own background, readable on light and dark desktops.
+void Tint(QLabel* line, const QColor& tint) {
+    QPalette palette = line->parentWidget()->palette();
+    const QColor window = palette.color(QPalette::Window);
+    const auto mix = [](int a, int b) { return (3 * a + b) / 4; };
+    palette.setColor(QPalette::Window,
+                     QColor(mix(window.red(), tint.red()), mix(window.green(), tint.green()),
+                            mix(window.blue(), tint.blue())));
+    line->setPalette(palette);
+}
+
+const QColor NoticeTint(230, 170, 0);
+const QColor ErrorTint(220, 50, 40);
+const QColor HintTint(60, 130, 210);
+
+} // namespace
+
+EditorWindow::EditorWindow(std::unique_ptr<Database> database, QList<TableName> tables)
+    : database_(std::move(database)),
+      tables_(std::move(tables)),
+      settings_(SettingsFor(locale())),
+      question_(AskInABox) {
+    widget_ = new quillgrid::qt::QuillgridWidget(this);
+    widget_->grid().SetLanguage(settings_.Language);
+    makeTools();
+    makeTableChooser();
+    makeLines();
+    connectGrid();
+    showState();
+    resize(560, 640);
+}
+
+EditorWindow::~EditorWindow() {
+    // The widget takes leave of its cells while the form still knows them.
+    delete widget_;
+}
+
+void EditorWindow::makeTools() {
+    auto* bar = addToolBar(QStringLiteral("Records"));
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    using Window = EditorWindow;
+    addTool(ToolIcon::First, QStringLiteral("First record"),
+            {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp)}, &Window::goFirst);
+    addTool(ToolIcon::Previous, QStringLiteral("Previous record"),
+            {QKeySequence(Qt::CTRL | Qt::Key_PageUp), QKeySequence(Qt::ALT | Qt::Key_PageUp)},
+            &Window::goPrevious);
+    addTool(ToolIcon::Next, QStringLiteral("Next record"),
+            {QKeySequence(Qt::CTRL | Qt::Key_PageDown), QKeySequence(Qt::ALT | Qt::Key_PageDown)},
+            &Window::goNext);
+    addTool(ToolIcon::Last, QStringLiteral("Last record"),
+            {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown)}, &Window::goLast);
+    addTool(ToolIcon::New, QStringLiteral("New record"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+            &Window::newRecord);
+    addTool(ToolIcon::Save, QStringLiteral("Save"), {QKeySequence(Qt::CTRL | Qt::Key_S)}, &Window::save);
+    addTool(ToolIcon::Revert, QStringLiteral("Revert to the saved record"),
+            {QKeySequence(Qt::CTRL | Qt::Key_R)}, &Window::revertRecord);
+    for (const Tool& tool : tools_) {
+        if (tool.Icon == ToolIcon::New) bar->addSeparator();
+        bar->addAction(tool.Action);
+    }
+    auto* clear = new QAction(QStringLiteral("Clear value"), this);
+    clear->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Backspace));
+    connect(clear, &QAction::triggered, this, &EditorWindow::clearValue);
+    addAction(clear);
+    drawIcons();
+}
+
+QAction* EditorWindow::addTool(ToolIcon icon, const QString& text, const QList<QKeySequence>& keys,
+                               void (EditorWindow::*slot)()) {
+    auto* action = new QAction(text, this);
+    action->setShortcuts(keys);
+    action->setToolTip(QStringLiteral("%1 (%2)").arg(text, keys.first().toString(QKeySequence::NativeText)));
+    connect(action, &QAction::triggered, this, slot);
+    tools_ << Tool{action, icon};
+    return action;
+}
+
+void EditorWindow::drawIcons() {
+    for (const Tool& tool : tools_)
+        tool.Action->setIcon(MakeToolIcon(tool.Icon, palette()));
+}
+
+void EditorWindow::makeTableChooser() {
+    if (tables_.size() < 2) return;
+    tableChooser_ = new QComboBox(this);
+    tableChooser_->setToolTip(QStringLiteral("Table"));
+    tableChooser_->setAccessibleName(QStringLiteral("Table"));
+    tableChooser_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (const TableName& table : tables_)
+        tableChooser_->addItem(table.Shown);
+    connect(tableChooser_, &QComboBox::activated, this, &EditorWindow::chooseTable);
+    auto* bar = findChild<QToolBar*>();
+    auto* gap = new QWidget(bar);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+    bar->addWidget(tableChooser_);
+}
+
+void EditorWindow::makeLines() {
+    auto* centre = new QWidget(this);
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    notice_ = MakeLine(centre);
+    message_ = MakeLine(centre);
+    Tint(notice_, NoticeTint);
+    column->addWidget(notice_);
+    column->addWidget(widget_, 1);
+    column->addWidget(message_);
+    setCentralWidget(centre);
+    status_ = new QLabel(this);
+    status_->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(status_, 1);
+}
+
+void EditorWindow::connectGrid() {
+    using Widget = quillgrid::qt::QuillgridWidget;
+    connect(widget_, &Widget::validateCellError, this,
+            [](quillgrid::Cell*, quillgrid::ValidationErrConstants, bool* cancel) { *cancel = true; });
+    connect(widget_, &Widget::validateCell, this, &EditorWindow::checkTyped);
+    connect(widget_, &Widget::selChange, this, &EditorWindow::showHint);
+    connect(widget_, &Widget::change, this, [this] { showState(); });
+}
+
+void EditorWindow::checkTyped(quillgrid::Cell* cell, bool* cancel) {
+    const FieldBinding* binding = form_ && cell ? form_->BindingOf(*cell) : nullptr;
+    showState();
+    if (!binding || binding->Fits() || !binding->IsChanged()) return;
+    const auto value = binding->ToDatabase();
+    if (value) return;
+    *cancel = true;
+    widget_->showMessage(value.Message());
+}
+
+void EditorWindow::showHint(quillgrid::Cell* cell) {
+    const FieldBinding* binding = form_ && cell ? form_->BindingOf(*cell) : nullptr;
+    showMessage(binding ? binding->Hint() : QString(), false);
+}
+
+bool EditorWindow::openTable(const TableName& table) {
+    if (form_ && !mayLeave()) return false;
+    auto opened = RecordForm::Open(widget_->grid(), *database_, table, settings_);
+    if (!opened) {
+        showMessage(QStringLiteral("The table “%1” cannot be read: %2").arg(table.Shown, opened.Message()));
+        return false;
+    }
+    form_ = std::move(*opened);
+    notice_->setText(form_->Notice());
+    notice_->setVisible(!form_->Notice().isEmpty());
+    setSelectedTable(table.Shown);
+    showMessage({});
+    if (form_->Count() > 0) {
+        showMessage(form_->Show(0).Message());
+    } else {
+        form_->ShowNew();
+    }
+    showState();
+    return true;
+}
+
+void EditorWindow::setSelectedTable(const QString& shown) {
+    if (tableChooser_) tableChooser_->setCurrentText(shown);
+}
+
+void EditorWindow::chooseTable(int index) {
+    if (index < 0 || index >= tables_.size() || (form_ && tables_[index].Shown == form_->TableTitle()))
+        return;
+    if (!openTable(tables_[index]) && form_) setSelectedTable(form_->TableTitle());
+}
+
+void EditorWindow::goFirst() {
+    goTo(0);
+}
+
+void EditorWindow::goPrevious() {
+    if (!form_) return;
+    goTo(form_->IsNew() ? form_->Count() - 1 : form_->Position() - 1);
+}
+
+void EditorWindow::goNext() {
+    if (form_ && !form_->IsNew()) goTo(form_->Position() + 1);
+}
+
+void EditorWindow::goLast() {
+    if (form_) goTo(form_->Count() - 1);
+}
+
+void EditorWindow::goTo(qsizetype position) {
+    if (!form_ || position < 0 || position >= form_->Count() || !mayLeave()) return;
+    const auto shown = form_->Show(position);
+    showMessage(shown.Message());
+    showState();
+}
+
+void EditorWindow::newRecord() {
+    if (!form_ || !form_->CanWrite() || !mayLeave()) return;
+    form_->ShowNew();
+    showMessage({});
+    showState();
+}
+
+void EditorWindow::save() {
+    saveRecord();
+}
+
+bool EditorWindow::saveRecord() {
+    if (!form_ || !widget_->commitEdit()) return false;
+    if (!form_->IsNew() && !form_->IsModified()) {
+        showState();
+        return true;
+    }
+    const auto saved = form_->Save();
+    showMessage(saved ? QString() : QStringLiteral("Not saved: %1").arg(saved.Message()));
+    showState();
+    return static_cast<bool>(saved);
+}
+
+void EditorWindow::revertRecord() {
+    if (!form_) return;
+    // What is being typed goes with the rest: the cells are filled again whatever the edit box holds.
+    const auto reverted = form_->Revert();
+    showMessage(reverted.Message());
+    showState();
+}
+
+void EditorWindow::clearValue() {
+    quillgrid::Cell* cell = widget_->grid().Cell();
+    FieldBinding* binding = form_ && cell ? form_->BindingOf(*cell) : nullptr;
+    if (!binding || !widget_->commitEdit()) return;
+    binding->SetNull();
+    widget_->grid().Refresh();
+    showState();
+}
+
+bool EditorWindow::mayLeave() {
+    if (!widget_->commitEdit()) return false;
+    return !form_->IsModified() || offerToSave();
+}
+
+bool EditorWindow::offerToSave() {
+    switch (question_(this)) {
+    case Answer::Save: return saveRecord();
+    case Answer::Discard: return true;
+    case Answer::Cancel: break;
+    }
+    return false;
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(!form_ || mayLeave());
+}
+
+void EditorWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || !notice_) return;
+    drawIcons();
+    Tint(notice_, NoticeTint);
+}
+
+QString EditorWindow::message() const {
+    return message_->text();
+}
+
+QString EditorWindow::statusText() const {
+    return status_->text();
+}
+
+void EditorWindow::showMessage(const QString& text, bool isError) {
+    message_->setText(text);
+    Tint(message_, isError ? ErrorTint : HintTint);
+    message_->setVisible(!text.isEmpty());
+}
+
+void EditorWindow::showState() {
+    const bool hasForm = form_ != nullptr;
+    const bool canWrite = hasForm && form_->CanWrite();
+    const bool modified = hasForm && form_->IsModified();
+    const bool isNew = hasForm && form_->IsNew();
+    const qsizetype position = hasForm ? form_->Position() : -1;
+    const qsizetype count = hasForm ? form_->Count() : 0;
+    const std::array<bool, 7> enabled{isNew ? count > 0 : position > 0,
+                                      isNew ? count > 0 : position > 0,
+                                      !isNew && position + 1 < count,
+                                      isNew ? count > 0 : position + 1 < count,
+                                      canWrite,
+                                      canWrite,
+                                      canWrite};
+    for (const Tool& tool : tools_)
+        tool.Action->setEnabled(enabled[static_cast<std::size_t>(tool.Icon)]);
+    const QString place = isNew ? QStringLiteral("New record")
+                                : QStringLiteral("Record %L1 of %L2").arg(position + 1).arg(count);
+    const QString table = hasForm ? form_->TableTitle() : QString();
+    status_->setText(
+        QStringLiteral("%1 · %2%3").arg(place, table, modified ? QStringLiteral(" · modified") : QString()));
+    setWindowTitle(QStringLiteral("%1 – %2[*]").arg(table, database_->Description()));
+    setWindowModified(modified);
+}
+
+} // namespace quillgrid::editor

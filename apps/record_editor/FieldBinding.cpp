@@ -1,0 +1,214 @@
+#include "apps/record_editor/FieldBinding.h"
+
+#include "apps/record_editor/SqlDialect.h"
+
+#include "quillgrid/base/Text.h"
+
+namespace quillgrid::editor {
+namespace {
+
+bool IsNothing(const Variant& value) {
+    const auto* text = value.Get<std::string>();
+    return value.IsEmpty() || value.IsNull() || (text && text->empty());
+}
+
+/// The edit box trims blanks when the user merely passes through; that is no change of the user's.
+bool IsSameValue(const Variant& now, const Variant& before) {
+    if (IsNothing(now) || IsNothing(before)) return IsNothing(now) == IsNothing(before);
+    const auto* text = now.Get<std::string>();
+    const auto* old = before.Get<std::string>();
+    if (text && old) return *text == *old || *text == TrimBlanks(*old);
+    return now == before || (now.IsNumber() && before.IsNumber() && EqualAsText(now, before));
+}
+
+QString VisibleLineBreaks(QString text) {
+    text.replace(QLatin1String("\r\n"), QStringLiteral("↵"));
+    for (QChar& c : text) {
+        if (c == u'\n' || c == u'\r')
+            c = QChar(u'↵');
+        else if (FieldCodec::HasControlCharacters(c))
+            c = QChar(u'␣');
+    }
+    return text;
+}
+
+const char* KindName(ValueKind kind) {
+    switch (kind) {
+    case ValueKind::Integer: return "a whole number";
+    case ValueKind::Decimal: return "an amount";
+    case ValueKind::Real: return "a number";
+    case ValueKind::Date: return "a date";
+    case ValueKind::Time: return "a time of day";
+    case ValueKind::Boolean: return "yes or no";
+    case ValueKind::Choice: return "one of the choices";
+    case ValueKind::Text:
+    case ValueKind::Unreadable: break;
+    }
+    return "text for this cell";
+}
+
+} // namespace
+
+FieldBinding::FieldBinding(ColumnRule rule, std::shared_ptr<Cell> cell, FieldCodec codec, Locale locale,
+                           bool readOnly)
+    : rule_(std::move(rule)),
+      cell_(std::move(cell)),
+      codec_(codec),
+      locale_(std::move(locale)),
+      readOnly_(readOnly) {}
+
+void FieldBinding::DefineCell() {
+    const bool isList = !rule_.Choices.isEmpty();
+    cell_->Clear();
+    cell_->Define({.NewCaption = Variant(rule_.Caption.toStdString()),
+                   .NewCellTemplate = isList ? qgctlist : rule_.Template});
+    if (isList) FillList();
+    if (!rule_.Min.IsNull()) cell_->SetMin(rule_.Min);
+    if (!rule_.Max.IsNull()) cell_->SetMax(rule_.Max);
+    if (rule_.Kind == ValueKind::Text) {
+        cell_->SetMaxLength(rule_.MaxLength >= 0 ? rule_.MaxLength : SqlDialect::LongestText);
+    }
+    if (rule_.Format) cell_->SetFormat(rule_.Format->toStdString());
+    if (rule_.Format) cell_->SetListImage(Variant::Null());
+    if (rule_.Unit) cell_->SetUnit(rule_.Unit->toStdString());
+    if (rule_.Charlist) cell_->SetCharlist(rule_.Charlist->toStdString());
+    cell_->SetAllowEmpty(rule_.AllowEmpty);
+    cell_->SetLocked(rule_.Locked || readOnly_);
+    cell_->SetVisible(rule_.Visible);
+    cell_->SetTooltipText(rule_.ToolTip.toStdString());
+}
+
+void FieldBinding::FillList() {
+    if (rule_.NullAllowed) cell_->Listitems().Add({.Text = "", .ItemData = Variant("")});
+    for (const Choice& choice : rule_.Choices) {
+        const Variant image = choice.Image.isEmpty() ? Variant::Null() : Variant(choice.Image.toStdString());
+        cell_->Listitems().Add({.Text = choice.Text.toStdString(),
+                                .ItemData = Variant(choice.Value.Text.toStdString()),
+                                .ListImage = image});
+    }
+}
+
+void FieldBinding::Load(const FieldValue& value) {
+    loaded_ = value;
+    forceNull_ = false;
+    DefineCell();
+    const auto decoded = DecodeLoaded();
+    if (decoded && !decoded->IsNull()) cell_->SetValue(*decoded);
+    if (decoded && cell_->Style() == qgcsList && decoded->IsNull()) cell_->SetValue(Variant(""));
+    fits_ = decoded && IsShownExactly(*decoded);
+    if (!fits_) ShowAsIs();
+    shown_ = baseline_ = Current();
+}
+
+std::optional<Variant> FieldBinding::DecodeLoaded() const {
+    if (rule_.Choices.isEmpty()) return FieldCodec::Decode(loaded_, rule_.Kind);
+    if (rule_.Kind != ValueKind::Boolean || loaded_.IsNull())
+        return FieldCodec::Decode(loaded_, ValueKind::Choice);
+    const auto answer = FieldCodec::Decode(loaded_, ValueKind::Boolean);
+    if (!answer) return std::nullopt;
+    return Variant(*answer->Get<bool>() ? "1" : "0");
+}
+
+void FieldBinding::LoadNew() {
+    Load(rule_.Default);
+    const bool nothing = rule_.Default.IsNull();
+    // A template that always shows something (no, Mrs.) saves what it shows: it differs from nothing.
+    if (nothing && !fits_) {
+        DefineCell();
+        fits_ = true;
+    }
+    loaded_ = {};
+    shown_ = baseline_ = Current();
+    if (nothing) baseline_ = Variant::Null();
+}
+
+bool FieldBinding::IsShownExactly(const Variant& value) const {
+    if (IsNothing(value)) return cell_->Text().empty();
+    if (cell_->Style() == qgcsList && cell_->ValidationRule() != qgvrBoolean) {
+        return cell_->ListIndex() >= 1 && EqualAsText(cell_->ItemData(), value);
+    }
+    const Variant shown = cell_->Value();
+    if (const auto* text = value.Get<std::string>()) return shown.ToPlainText() == *text;
+    return shown == value || (shown.IsNumber() && EqualAsText(shown, value));
+}
+
+void FieldBinding::ShowAsIs() {
+    const bool editable = loaded_.IsWhole() && rule_.Kind != ValueKind::Unreadable &&
+                          !FieldCodec::HasControlCharacters(loaded_.Text);
+    const bool expected = rule_.Kind == ValueKind::Unreadable && loaded_.IsWhole();
+    const QString caption = expected || loaded_.IsNull() ? rule_.Caption : QString(rule_.Caption + u" ⚠");
+    cell_->Clear();
+    cell_->Define({.NewCaption = Variant(caption.toStdString()), .NewCellTemplate = qgctNone});
+    cell_->SetMaxLength(2 * SqlDialect::LongestText);
+    cell_->SetValue(Variant(VisibleLineBreaks(loaded_.Text).toStdString()));
+    cell_->SetLocked(!editable || rule_.Locked || readOnly_);
+    cell_->SetVisible(rule_.Visible);
+    cell_->SetFontItalic(!expected);
+    cell_->SetTooltipText(Hint().toStdString());
+}
+
+QString FieldBinding::Hint() const {
+    if (fits_ || loaded_.IsNull()) return rule_.ToolTip;
+    if (loaded_.Kind == FieldValue::Storage::Binary) return QStringLiteral("Binary data are not shown.");
+    if (loaded_.Kind == FieldValue::Storage::LongText)
+        return QStringLiteral("Only the beginning of this text is shown.");
+    if (rule_.Kind == ValueKind::Unreadable) return rule_.ToolTip;
+    if (FieldCodec::HasControlCharacters(loaded_.Text)) {
+        return QStringLiteral("Text of several lines is shown here but cannot be edited in one line.");
+    }
+    return QStringLiteral("“%1” is not %2; it is shown as the database has it.")
+        .arg(loaded_.Text.left(60), QLatin1String(KindName(rule_.Kind)));
+}
+
+Variant FieldBinding::Current() const {
+    const bool isList = cell_->Style() == qgcsList && cell_->ValidationRule() != qgvrBoolean;
+    if (isList && cell_->ListIndex() < 1) return Variant::Null();
+    return cell_->Value();
+}
+
+bool FieldBinding::Differs(const Variant& from) const {
+    if (cell_->Locked()) return false;
+    const Variant now = Current();
+    if (forceNull_ && IsNothing(now)) return !loaded_.IsNull();
+    return !IsSameValue(now, from);
+}
+
+bool FieldBinding::IsTouched() const {
+    return Differs(shown_);
+}
+
+bool FieldBinding::IsChanged() const {
+    return Differs(baseline_);
+}
+
+void FieldBinding::SetNull() {
+    if (cell_->Locked() || !rule_.NullAllowed) return;
+    cell_->SetValue(cell_->Style() == qgcsList ? Variant("") : Variant::Null());
+    forceNull_ = IsNothing(Current());
+}
+
+QVariant FieldBinding::Nothing() const {
+    const bool text = rule_.Kind == ValueKind::Text && rule_.Choices.isEmpty();
+    return text && !rule_.NullAllowed ? QVariant(QStringLiteral("")) : FieldCodec::SqlNull();
+}
+
+/// The entry's own value, so that it is bound in the type in which the other table keeps it.
+QVariant FieldBinding::ChosenValue(const QString& text) const {
+    for (const Choice& choice : rule_.Choices) {
+        if (choice.Value.Text == text) return codec_.EncodeChoice(choice.Value);
+    }
+    return text;
+}
+
+Outcome<QVariant> FieldBinding::ToDatabase() const {
+    const Variant now = Current();
+    if (IsNothing(now)) return Nothing();
+    const QString text = QString::fromStdString(now.ToPlainText());
+    if (fits_ && !rule_.Choices.isEmpty()) return ChosenValue(text);
+    if (fits_) return codec_.Encode(now, rule_.Kind, loaded_);
+    if (const auto typed = codec_.EncodeTyped(text, rule_.Kind, locale_)) return *typed;
+    return Failure{QStringLiteral("%1: “%2” is not %3.")
+                       .arg(rule_.Caption, text.left(60), QLatin1String(KindName(rule_.Kind)))};
+}
+
+} // namespace quillgrid::editor

@@ -1,0 +1,44 @@
+#include "apps/record_editor/SqlDialect.h"
+
+namespace quillgrid::editor {
+
+QString SqlDialect::Quote(const QString& identifier) {
+    QString inner = identifier;
+    inner.replace(u'"', QLatin1String("\"\""));
+    return u'"' + inner + u'"';
+}
+
+// Names are joined in by concatenation: QString::arg would replace a "%1" inside a quoted name.
+QString SqlDialect::KindOf(const QString& column, bool binary) const {
+    const QString limit = QString::number(LongestText);
+    if (postgres_) {
+        const QString present =
+            binary ? QStringLiteral("'blob'")
+                   : u"CASE WHEN length(" + column + u"::text) > " + limit + u" THEN 'long' ELSE 'text' END";
+        return u"CASE WHEN " + column + u" IS NULL THEN 'null' ELSE " + present + u" END";
+    }
+    return u"CASE WHEN typeof(" + column + u") = 'text' AND length(" + column + u") > " + limit +
+           u" THEN 'long' ELSE typeof(" + column + u") END";
+}
+
+QString SqlDialect::ValueOf(const QString& column, bool binary, bool money) const {
+    const QString limit = QString::number(LongestText);
+    if (postgres_) {
+        if (binary) return u"octet_length(" + column + u")::text";
+        // The type "money" writes itself in the server's locale.
+        const QString text = column + (money ? u"::numeric::text" : u"::text");
+        return u"left(" + text + u", " + limit + u")";
+    }
+    return u"CASE typeof(" + column + u") WHEN 'blob' THEN length(" + column + u") WHEN 'text' THEN substr(" +
+           column + u", 1, " + limit + u") ELSE " + column + u" END";
+}
+
+QString SqlDialect::Equals(const QString& column) const {
+    return column + (postgres_ ? u" = ?" : u" IS ?");
+}
+
+QString SqlDialect::Locking() const {
+    return postgres_ ? QStringLiteral(" FOR UPDATE") : QString();
+}
+
+} // namespace quillgrid::editor
