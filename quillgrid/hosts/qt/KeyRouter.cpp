@@ -2,12 +2,13 @@
 
 #include "quillgrid/grid/Keys.h"
 #include "quillgrid/grid/Quillgrid.h"
+#include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/GridLineEdit.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
 
-#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace quillgrid::qt {
 
@@ -63,11 +64,8 @@ bool KeyRouter::TypeKey(const QKeyEvent& event) {
 
 bool KeyRouter::LeaveByControlTab(const QKeyEvent& event) {
     if (KeyCodeOf(event) != KeyTab || !event.modifiers().testFlag(Qt::ControlModifier)) return false;
-    // The box gives a plain Tab to the window, which moves the focus.
     const bool back = event.modifiers().testFlag(Qt::ShiftModifier) || event.key() == Qt::Key_Backtab;
-    const Qt::KeyboardModifiers held = back ? Qt::ShiftModifier : Qt::NoModifier;
-    QKeyEvent plain(QEvent::KeyPress, back ? Qt::Key_Backtab : Qt::Key_Tab, held);
-    if (QWidget* focus = QApplication::focusWidget()) static_cast<QObject*>(focus)->event(&plain);
+    LeaveControl(!back);
     return true;
 }
 
@@ -80,7 +78,6 @@ void KeyRouter::TypeText(const QString& text) {
     const QPointer<KeyRouter> alive(this);
     for (const char32_t typed : text.toUcs4()) {
         if (IsControlCharacter(typed)) continue;
-        if (grid_.KeyDown(KeyOfOtherCharacter, ShiftNone) || !alive) return; // full, or not wanted
         char32_t character = typed;
         const bool used = grid_.KeyPress(character);
         if (!alive) return;
@@ -95,6 +92,8 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: return Press(static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return Release(static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod: return Compose(static_cast<QInputMethodEvent*>(event));
+    case QEvent::MouseButtonPress: BeforeInput(); return false;
+    case QEvent::MouseButtonDblClick: return DoubleClick(static_cast<QMouseEvent*>(event));
     default: return false;
     }
 }
@@ -115,6 +114,13 @@ bool KeyRouter::Release(QKeyEvent* event) {
     KeyUp(*event);
     event->accept();
     return true;
+}
+
+bool KeyRouter::DoubleClick(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return false;
+    const QPointer<KeyRouter> alive(this);
+    grid_.DoubleClick(FromQPoint(edit_.mapToParent(event->position().toPoint())));
+    return !alive;
 }
 
 // The box may keep what is still being composed; what is finished is typed like any other text.

@@ -7,6 +7,7 @@
 
 class QInputMethodEvent;
 class QKeyEvent;
+class QMouseEvent;
 class QWidget;
 
 namespace quillgrid {
@@ -26,6 +27,8 @@ public:
 
     /// Called before each key that is not only a modifier.
     std::function<void()> BeforeInput = [] {};
+    /// Moves the focus to the next (or previous) control of the window.
+    std::function<void(bool next)> LeaveControl = [](bool) {};
 
     /// True: the control used the key. Also for keys that reach the control while its edit box is hidden.
     bool KeyDown(const QKeyEvent& event);
@@ -40,6 +43,7 @@ private:
     bool Release(QKeyEvent* event);
     bool Override(QKeyEvent* event);
     bool Compose(QInputMethodEvent* event);
+    bool DoubleClick(QMouseEvent* event);
     bool TypeKey(const QKeyEvent& event);
     bool LeaveByControlTab(const QKeyEvent& event);
 

@@ -7,6 +7,12 @@
 
 namespace quillgrid::qt {
 
+namespace {
+
+constexpr qint64 ShortestPause = 80; ///< milliseconds between two beeps
+
+} // namespace
+
 Size QtSurface::InnerSize() const {
     return {widget_.width(), widget_.height()};
 }
@@ -27,7 +33,10 @@ void QtSurface::SetTooltip(std::string_view text) {
     widget_.setToolTip(ToQString(text));
 }
 
+// A pasted text may be refused character by character: one sound says it all.
 void QtSurface::Beep() {
+    if (lastBeep_.isValid() && lastBeep_.elapsed() < ShortestPause) return;
+    lastBeep_.start();
     QApplication::beep();
 }
 

@@ -2,6 +2,8 @@
 
 #include "quillgrid/platform/Surface.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
 
 class QWidget;
@@ -28,6 +30,7 @@ public:
 
 private:
     QWidget& widget_;
+    QElapsedTimer lastBeep_;
 };
 
 } // namespace quillgrid::qt

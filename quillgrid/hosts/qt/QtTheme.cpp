@@ -43,7 +43,7 @@ constexpr std::array<ShadeRow, 31> Shades{{
     {QPalette::HighlightedText},      // highlight text
     {QPalette::Window},               // button face
     {QPalette::Window, -0.28, 0.20},  // button shadow
-    {QPalette::PlaceholderText},      // grey text
+    {QPalette::Text, 0.48, -0.4},     // grey text; few palettes set a role for it
     {QPalette::ButtonText},           // button text
     {QPalette::WindowText},           // inactive caption text
     {QPalette::Window, 0.75, 0.12},   // button highlight
@@ -63,12 +63,6 @@ QColor Shaded(const ShadeRow& row, const QPalette& palette) {
     const QColor colour = palette.color(row.Role);
     const double share = IsDark(palette) ? row.DarkPalette : row.LightPalette;
     return Mixed(colour, share < 0 ? QColor(Qt::black) : QColor(Qt::white), std::abs(share));
-}
-
-/// Grey text may be half transparent; it is drawn over the window colour.
-QColor Opaque(const QColor& colour, const QPalette& palette) {
-    if (colour.alpha() == 255) return colour;
-    return Mixed(palette.color(QPalette::Base), QColor(colour.rgb()), colour.alphaF());
 }
 
 QString WithoutFoundry(const QString& family) {
@@ -95,7 +89,7 @@ QColor ToQColor(Colour colour, const QPalette& palette) {
                 static_cast<int>((colour >> 16U) & 0xFFU)};
     }
     const std::size_t index = colour & 0xFFU;
-    return Opaque(Shaded(index < Shades.size() ? Shades[index] : ShadeRow{QPalette::Text}, palette), palette);
+    return Shaded(index < Shades.size() ? Shades[index] : ShadeRow{QPalette::Text}, palette);
 }
 
 Colour QtTheme::Resolve(Colour colour) const {

@@ -7,6 +7,7 @@
 #include "quillgrid/hosts/qt/WidgetHost.h"
 
 #include <QApplication>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -28,7 +29,6 @@ constexpr int RowsAtLeast = 3;
 
 QuillgridWidget::QuillgridWidget(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_OpaquePaintEvent, false);
     host_ = std::make_unique<WidgetHost>(*this);
 }
 
@@ -109,7 +109,7 @@ void QuillgridWidget::wheelEvent(QWheelEvent* event) {
 
 // Reached while the edit box is hidden; keys that the box leaves over have been seen already.
 void QuillgridWidget::keyPressEvent(QKeyEvent* event) {
-    const bool leftOver = focusProxy() && focusProxy()->hasFocus();
+    const bool leftOver = KeyCodeOf(*event) == KeyTab || (focusProxy() && focusProxy()->hasFocus());
     if (leftOver || !host_->Keys.KeyDown(*event)) event->ignore();
 }
 
@@ -140,6 +140,7 @@ void QuillgridWidget::changeEvent(QEvent* event) {
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
     case QEvent::EnabledChange:
+    case QEvent::LanguageChange:
     case QEvent::LayoutDirectionChange: return host_->LookChanged();
     default: return;
     }
@@ -149,9 +150,9 @@ void QuillgridWidget::focusInEvent(QFocusEvent*) {
     update();
 }
 
-void QuillgridWidget::hideEvent(QHideEvent*) {
+void QuillgridWidget::hideEvent(QHideEvent* event) {
     host_->Refusals.Dismiss();
-    if (!isVisibleTo(nullptr) && !window()->isMinimized()) host_->Focus.Leave();
+    if (!event->spontaneous()) host_->Focus.Leave(); // a minimised window comes back as it was
 }
 
 } // namespace quillgrid::qt

@@ -76,6 +76,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class WidgetHost;
+
     std::unique_ptr<WidgetHost> host_;
 };
 

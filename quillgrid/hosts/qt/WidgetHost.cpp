@@ -58,6 +58,7 @@ void WidgetHost::ConnectChildren() {
     Focus.Entered = [this] { Grid.FocusGained(); };
     Focus.Left = [this] { Grid.FocusLost(); };
     Keys.BeforeInput = [this] { Refusals.Dismiss(); };
+    Keys.LeaveControl = [this](bool next) { widget_.focusNextPrevChild(next); };
     edit_->PasteAllowed = [this] { return Grid.PasteAllowed(); };
     edit_->TakeText = [this](const QString& text) { Keys.TypeText(text); };
     edit_->Refuse = [this] {
@@ -80,6 +81,8 @@ void WidgetHost::ConnectRefusals() {
     });
     Grid.SelChange.Listen([this](Cell& cell) {
         Refusals.CurrentCellChanged();
+        edit_->setAccessibleName(ToQString(cell.Caption()).remove(u'&'));
+        edit_->setAccessibleDescription(ToQString(cell.TooltipText()));
         Q_EMIT widget_.selChange(&cell);
     });
 }

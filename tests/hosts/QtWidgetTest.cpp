@@ -1,0 +1,306 @@
+#include "QtForm.h"
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace quillgrid::qt {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class QtWidget : public testing::Test {
+protected:
+    QtWidget() {
+        form.Grid().Add({.Key = "name", .Caption = "Name", .Value = "Müller"});
+        form.Grid().Add({.Key = "date", .Caption = "Datum", .Value = "3.5.2026", .CellTemplate = qgctDate});
+        form.Grid().Add({.Key = "count", .Caption = "Anzahl", .Value = 5, .CellTemplate = qgctInteger});
+        form.Grid().Add(
+            {.Key = "secret", .Caption = "Kennwort", .Value = "geheim", .CellTemplate = qgctPassword});
+    }
+
+    void GoTo(int row) {
+        form.Show();
+        for (int current = 1; current < row; ++current)
+            form.Press(Qt::Key_Down);
+        form.Events.clear();
+    }
+    std::string TextOf(int row) { return form.Grid().RowCell(row)->Text(); }
+    QRect ValueArea(int row) {
+        const Rect area = form.Grid().ValueArea(*form.Grid().RowCell(row));
+        return {area.Left, area.Top, area.Width(), area.Height()};
+    }
+    void Click(QPoint position) {
+        QWidget* target = form.Widget->childAt(position);
+        if (!target) target = form.Widget;
+        const QPointF local = target->mapFrom(form.Widget, position);
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, local, target->mapToGlobal(local), Qt::LeftButton, Qt::LeftButton, {});
+            QApplication::sendEvent(target, &event);
+        }
+    }
+    void Turn(int delta) {
+        const QPointF centre(form.Widget->rect().center());
+        QWheelEvent event(centre, form.Widget->mapToGlobal(centre), {}, {0, delta}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(form.Widget, &event);
+    }
+
+    QtForm form;
+};
+
+TEST_F(QtWidget, TypedDateIsTakenOverByEnter) {
+    GoTo(2);
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    EXPECT_EQ(form.Edit()->selectedText(), QStringLiteral("03.05.2026"));
+    form.Type(QStringLiteral("1.12.2027"));
+    form.Enter();
+    EXPECT_EQ(TextOf(2), "01.12.2027");
+    EXPECT_EQ(form.Events, (Names{"validate date", "change date", "select count"}));
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("5"));
+}
+
+TEST_F(QtWidget, RefusedTextIsExplainedAtItsCellUntilTheNextKey) {
+    form.Cancel = true;
+    GoTo(2);
+    form.Type(QStringLiteral("31.2.2026"));
+    EXPECT_EQ(form.Widget->shownMessage(), QString());
+    form.Enter();
+    EXPECT_EQ(form.Events, Names{"refused 20002 date"});
+    EXPECT_EQ(form.Widget->shownMessage(), QString::fromStdString(form.Grid().ErrorMessage(20002)));
+    EXPECT_EQ(form.Edit()->selectedText(), QStringLiteral("03.05.2026"));
+    form.Settle();
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    EXPECT_FALSE(form.Widget->shownMessage().isEmpty());
+    form.Type(QStringLiteral("1"));
+    EXPECT_EQ(form.Widget->shownMessage(), QString());
+}
+
+TEST_F(QtWidget, MessageStaysWhenTheRowChangesAndSpeaksTheFormsLanguage) {
+    form.Grid().SetLanguage(qglgEnglish);
+    GoTo(2);
+    form.Type(QStringLiteral("31.2.2026"));
+    form.Enter();
+    EXPECT_EQ(form.Grid().CurrentRow(), 3);
+    EXPECT_EQ(form.Widget->shownMessage(), QString::fromStdString(form.Grid().ErrorMessage(21002)));
+    form.Widget->setMessageSource([](const Cell& cell, ValidationErrConstants code) {
+        return QString::fromStdString(cell.Key()) + QString::number(code);
+    });
+    form.Press(Qt::Key_Up);
+    form.Type(QStringLiteral("31.2.2026"));
+    form.Enter();
+    EXPECT_EQ(form.Widget->shownMessage(), QStringLiteral("date20002"));
+    form.Widget->showMessage({});
+    EXPECT_EQ(form.Widget->shownMessage(), QString());
+}
+
+TEST_F(QtWidget, PasteGoesOnlyIntoFreeText) {
+    QApplication::clipboard()->setText(QStringLiteral("1\n2ä😀"));
+    GoTo(3);
+    form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    form.Press(Qt::Key_Insert, {}, Qt::ShiftModifier);
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("5"));
+    EXPECT_EQ(form.Events, (Names{"beep", "beep"}));
+    form.Press(Qt::Key_Up);
+    form.Press(Qt::Key_Up);
+    form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    EXPECT_EQ(form.Edit()->text(), QString::fromUtf8("12ä😀"));
+}
+
+TEST_F(QtWidget, PastedTextPassesTheFilterAndLimitsOfItsCell) {
+    form.Grid().Cells().Item("name")->SetCharlist("abc");
+    form.Grid().Cells().Item("name")->SetMaxLength(4);
+    GoTo(1);
+    QApplication::clipboard()->setText(QStringLiteral("xaybzc") + QString(3000, u'a'));
+    form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("abcaa")); // one more than fits is still typed, then cut
+    form.Enter();
+    EXPECT_EQ(TextOf(1), "abca");
+}
+
+TEST_F(QtWidget, PasswordsAreNeverCopied) {
+    QApplication::clipboard()->setText(QStringLiteral("untouched"));
+    GoTo(4);
+    EXPECT_EQ(form.Edit()->displayText(), QStringLiteral("******"));
+    form.Edit()->selectAll();
+    form.Press(Qt::Key_C, QStringLiteral("\x03"), Qt::ControlModifier);
+    form.Press(Qt::Key_X, QStringLiteral("\x18"), Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("untouched"));
+}
+
+TEST_F(QtWidget, ComposedTextPassesTheSameFilter) {
+    GoTo(3);
+    QInputMethodEvent letters;
+    letters.setCommitString(QString::fromUtf8("ä7x8"));
+    QApplication::sendEvent(form.Edit(), &letters);
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("78"));
+    EXPECT_EQ(form.Events, (Names{"beep", "beep"}));
+    form.Press(Qt::Key_Up);
+    form.Press(Qt::Key_Up);
+    QInputMethodEvent composing(QStringLiteral("´"), {});
+    QApplication::sendEvent(form.Edit(), &composing);
+    QInputMethodEvent composed;
+    composed.setCommitString(QString::fromUtf8("é"));
+    QApplication::sendEvent(form.Edit(), &composed);
+    EXPECT_EQ(form.Edit()->text(), QString::fromUtf8("é"));
+}
+
+TEST_F(QtWidget, LeavingTakesTheTextOverOnce) {
+    GoTo(3);
+    form.Type(QStringLiteral("42"));
+    form.After->setFocus();
+    form.Settle();
+    EXPECT_EQ(TextOf(3), "42");
+    EXPECT_EQ(form.Events, (Names{"validate count", "change count"}));
+    EXPECT_TRUE(form.Edit()->isHidden());
+    EXPECT_EQ(QApplication::focusWidget(), form.After);
+    form.Widget->setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    EXPECT_EQ(form.Grid().CurrentRow(), 3);
+}
+
+TEST_F(QtWidget, RefusalBringsTheFocusBack) {
+    form.Cancel = true;
+    GoTo(2);
+    form.Type(QStringLiteral("31.2.2026"));
+    form.After->setFocus();
+    form.Settle();
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    EXPECT_EQ(form.Events, Names{"refused 20002 date"});
+    form.After->setFocus(); // the old value is back, nothing holds the user any more
+    form.Settle();
+    EXPECT_EQ(QApplication::focusWidget(), form.After);
+}
+
+TEST_F(QtWidget, AnotherWindowLeavesTheTypedTextAlone) {
+    GoTo(3);
+    form.Type(QStringLiteral("42"));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    other.setFocus();
+    form.Settle();
+    EXPECT_TRUE(form.Events.empty());
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("42"));
+    form.Window().activateWindow();
+    form.Settle();
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("42"));
+    form.Window().close();
+    EXPECT_EQ(form.Events, (Names{"validate count", "change count"}));
+}
+
+TEST_F(QtWidget, TabGoesThroughTheCellsAndOut) {
+    GoTo(1);
+    for (int row = 2; row <= 4; ++row) {
+        form.Press(Qt::Key_Tab, QStringLiteral("\t"));
+        EXPECT_EQ(form.Grid().CurrentRow(), row);
+    }
+    form.Press(Qt::Key_Tab, QStringLiteral("\t"));
+    EXPECT_EQ(QApplication::focusWidget(), form.After);
+    form.Press(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    form.Press(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), form.Before);
+}
+
+TEST_F(QtWidget, ClickSelectsAnotherRowAndCommitsTheFirst) {
+    GoTo(3);
+    form.Type(QStringLiteral("42"));
+    Click(ValueArea(1).center());
+    EXPECT_EQ(form.Events, (Names{"validate count", "change count", "select name"}));
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+}
+
+TEST_F(QtWidget, WheelAndScrollBarMoveRowsWithoutEditing) {
+    for (int i = 0; i < 60; ++i)
+        form.Grid().Add({.Caption = "Zeile", .Value = i, .CellTemplate = qgctInteger});
+    GoTo(1);
+    auto* bar = form.Widget->findChild<QScrollBar*>();
+    ASSERT_TRUE(bar->isVisible());
+    Turn(-40);
+    EXPECT_EQ(form.Grid().FirstVisibleRow(), 2);
+    Turn(-80);
+    EXPECT_EQ(form.Grid().FirstVisibleRow(), 4);
+    EXPECT_EQ(bar->value(), 4);
+    EXPECT_EQ(TextOf(5), "0");
+    bar->setValue(30);
+    EXPECT_EQ(form.Grid().FirstVisibleRow(), 30);
+    EXPECT_EQ(std::count(form.Events.begin(), form.Events.end(), "change"), 0);
+    Turn(1'000'000);
+    EXPECT_EQ(form.Grid().FirstVisibleRow(), 1);
+}
+
+TEST_F(QtWidget, DeletingTheWidgetInAnyOfItsSignalsIsSafe) {
+    using Connect = void (*)(QuillgridWidget*);
+    const Connect connections[] = {
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::change, [w] { delete w; }); },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::validateCell, [w] { delete w; }); },
+        [](QuillgridWidget* w) {
+            QObject::connect(w, &QuillgridWidget::validateCellError, [w] { delete w; });
+        },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::selChange, [w] { delete w; }); },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::beep, [w] { delete w; }); },
+    };
+    const char* const texts[] = {"4.5.2026", "4.5.2026", "31.2.2026", "4.5.2026", "x"};
+    for (std::size_t i = 0; i < std::size(connections); ++i) {
+        for (const bool byLeaving : {false, true}) {
+            QtForm other;
+            const QPointer<QuillgridWidget> widget = other.Widget;
+            other.Grid().Add({.Key = "d", .Caption = "d", .Value = "3.5.2026", .CellTemplate = qgctDate});
+            other.Grid().Add({.Key = "e", .Caption = "e"});
+            other.Show();
+            connections[i](other.Widget);
+            other.Type(QString::fromLatin1(texts[i]));
+            if (byLeaving) {
+                other.After->setFocus();
+            } else {
+                other.Enter();
+            }
+            other.Settle();
+            const bool selection = i == 3 && byLeaving; // leaving selects nothing
+            EXPECT_EQ(widget.isNull(), !selection) << i << byLeaving;
+        }
+    }
+}
+
+TEST_F(QtWidget, PaintsTheSameFormAtTwiceTheDensity) {
+    GoTo(2);
+    QImage large(form.Widget->size() * 2, QImage::Format_RGB32);
+    large.setDevicePixelRatio(2.0);
+    form.Widget->render(&large);
+    const QImage small = form.Widget->grab().toImage();
+    ASSERT_EQ(small.size() * 2, large.size());
+    const QColor label = small.pixelColor(ValueArea(2).left() - 4, ValueArea(2).center().y());
+    EXPECT_EQ(label, form.Widget->palette().color(QPalette::Highlight)); // the current row's label
+    EXPECT_EQ(large.pixelColor((ValueArea(2).left() - 4) * 2, ValueArea(2).center().y() * 2), label);
+    int different = 0;
+    for (int y = 0; y < small.height(); ++y) {
+        for (int x = 0; x < small.width(); ++x)
+            different += std::abs(small.pixelColor(x, y).lightness() -
+                                  large.pixelColor(2 * x, 2 * y).lightness()) > 64;
+    }
+    EXPECT_LT(different, small.width() * small.height() / 20); // only the rims of glyphs
+}
+
+TEST_F(QtWidget, FollowsFontAndPalette) {
+    GoTo(1);
+    const int before = ValueArea(1).height();
+    QFont font = form.Widget->font();
+    font.setPixelSize(26);
+    form.Widget->setFont(font);
+    EXPECT_GT(ValueArea(1).height(), before + 8);
+    EXPECT_EQ(form.Edit()->font().pixelSize(), 26);
+    QPalette dark(QColor(40, 42, 46));
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    form.Widget->setPalette(dark);
+    EXPECT_EQ(form.Edit()->palette().color(QPalette::Base), QColor(20, 20, 20));
+    EXPECT_EQ(form.Widget->grab().toImage().pixelColor(ValueArea(3).center()), QColor(20, 20, 20));
+}
+
+} // namespace
+} // namespace quillgrid::qt
