@@ -71,7 +71,7 @@ bool IsValidDate(std::int64_t year, std::int64_t month, std::int64_t day) {
 }
 
 std::optional<std::int32_t> DayFromParts(std::int64_t year, std::int64_t month, std::int64_t day) {
-    // Parts beyond these cannot come back into the valid years unless another part is as absurd.
+    // Keeps the sums below within 64 bits.
     constexpr std::int64_t limit = 100'000'000'000;
     for (const std::int64_t part : {year, month, day}) {
         if (part < -limit || part > limit) return std::nullopt;

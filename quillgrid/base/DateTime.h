@@ -45,7 +45,8 @@ int DaysInMonth(int year, int month);
 bool IsValidDate(std::int64_t year, std::int64_t month, std::int64_t day);
 
 /// The day number of a date whose parts may lie outside their ranges: month 13 is January of the next year,
-/// day 0 the last day of the previous month. Nothing when the result leaves years 100 to 9999.
+/// day 0 the last day of the previous month. Nothing when the result leaves years 100 to 9999 or when a part
+/// lies beyond 10^11 either way.
 std::optional<std::int32_t> DayFromParts(std::int64_t year, std::int64_t month, std::int64_t day);
 /// The parts of a valid day number.
 CivilDate PartsFromDay(std::int32_t day);

@@ -63,9 +63,18 @@ std::string PlainDecimal(double number) {
     if (std::isnan(number)) return "nan";
     if (std::isinf(number)) return number < 0 ? "-inf" : "inf";
     if (number == 0) return "0";
-    char buffer[400]; // 309 digits before the point, or 17 digits after 323 zeros, sign and point
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed).ptr;
-    return {buffer, end};
+    const ShortestDigits shortest = DigitsOf(number);
+    const std::string_view digits(shortest.Digits, static_cast<std::size_t>(shortest.Count));
+    std::string text = shortest.Negative ? "-" : "";
+    if (shortest.Exponent < 0) {
+        text.append("0.").append(static_cast<std::size_t>(-shortest.Exponent - 1), '0').append(digits);
+        return text;
+    }
+    const auto whole = static_cast<std::size_t>(shortest.Exponent) + 1;
+    text.append(digits.substr(0, whole));
+    if (whole > digits.size()) text.append(whole - digits.size(), '0');
+    if (whole < digits.size()) text.append(".").append(digits.substr(whole));
+    return text;
 }
 
 std::optional<std::int32_t> RoundToLong(double number) {

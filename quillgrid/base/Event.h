@@ -36,7 +36,8 @@ private:
 
 /// A published event with any number of listeners, called in the order in which they connected. A listener
 /// may disconnect itself or others, connect new ones (called from the next raise on), destroy the event's
-/// owner or throw: the exception goes on to whoever raised the event. By-reference arguments are references.
+/// owner (no further listener is called: what they refer to may be gone with it) or throw: the exception goes
+/// on to whoever raised the event. By-reference arguments are references.
 template <typename... Args>
 class Event {
 public:
@@ -45,6 +46,10 @@ public:
     Event() = default;
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
+    ~Event() {
+        for (const auto& slot : *slots_)
+            slot->Active = false; // a raise may still be under way with a snapshot of them
+    }
 
     /// Listens for as long as the returned connection lives.
     [[nodiscard]] Connection Connect(Listener listener) {

@@ -20,6 +20,15 @@ class KeyedList {
 public:
     using Pointer = std::shared_ptr<T>;
 
+    KeyedList() = default;
+    KeyedList(KeyedList&&) noexcept = default;
+    KeyedList& operator=(KeyedList other) noexcept {
+        std::swap(items_, other.items_);
+        std::swap(keys_, other.keys_);
+        return *this;
+    }
+    ~KeyedList() { Clear(); }
+
     std::size_t Count() const { return items_.size(); }
     bool IsEmpty() const { return items_.empty(); }
 
@@ -29,18 +38,21 @@ public:
     }
     /// The item under a key, or nothing.
     Pointer Find(std::string_view key) const {
-        const auto found = byKey_.find(key);
-        return found == byKey_.end() ? nullptr : found->second;
+        if (!keys_) return nullptr;
+        const auto found = keys_->Items.find(key);
+        return found == keys_->Items.end() ? nullptr : found->second;
     }
-    bool Contains(std::string_view key) const { return byKey_.find(key) != byKey_.end(); }
+    bool Contains(std::string_view key) const { return keys_ && keys_->Items.contains(key); }
 
     /// Inserts before `position` (appends when it is not within 1..Count); an empty key means none. False,
     /// and nothing changed, when the key is taken.
     bool Insert(std::size_t position, std::string_view key, Pointer item) {
-        if (!key.empty() && !byKey_.try_emplace(std::string(key), item).second) return false;
+        const std::string* const stored = key.empty() ? nullptr : AddKey(key, item);
+        if (!key.empty() && !stored) return false;
         const bool inside = position >= 1 && position <= items_.size();
-        items_.insert(inside ? items_.begin() + static_cast<std::ptrdiff_t>(position - 1) : items_.end(),
-                      std::move(item));
+        const auto before = static_cast<std::ptrdiff_t>(inside ? position - 1 : items_.size());
+        if (keys_) keys_->OfPositions.insert(keys_->OfPositions.begin() + before, stored);
+        items_.insert(items_.begin() + before, std::move(item));
         return true;
     }
     bool Append(std::string_view key, Pointer item) { return Insert(0, key, std::move(item)); }
@@ -53,7 +65,7 @@ public:
     void Clear() {
         // The members may call back while they end: they must find an empty list, not a half-cleared one.
         const auto items = std::exchange(items_, {});
-        const auto byKey = std::exchange(byKey_, {});
+        const auto keys = std::exchange(keys_, nullptr); // ends first: not the hashes order the end
     }
 
     auto begin() const { return items_.begin(); }
@@ -71,21 +83,36 @@ private:
         }
     };
 
+    /// Made for the first key: most lists have none, and many are empty.
+    struct Keys {
+        std::unordered_map<std::string, Pointer, Hash, Equal> Items;
+        std::vector<const std::string*> OfPositions; ///< keys of `Items`; null for an item without one
+    };
+
+    /// The key as it is kept, or nothing when it is taken.
+    const std::string* AddKey(std::string_view key, const Pointer& item) {
+        if (!keys_) {
+            keys_ = std::make_unique<Keys>();
+            keys_->OfPositions.resize(items_.size());
+        }
+        const auto [entry, added] = keys_->Items.try_emplace(std::string(key), item);
+        return added ? &entry->first : nullptr;
+    }
+
     std::vector<Pointer> items_;
-    std::unordered_map<std::string, Pointer, Hash, Equal> byKey_;
+    std::unique_ptr<Keys> keys_;
 };
 
 template <typename T>
 typename KeyedList<T>::Pointer KeyedList<T>::RemoveAt(std::size_t position) {
     Pointer item = At(position);
     if (!item) return nullptr;
-    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
-    for (auto entry = byKey_.begin(); entry != byKey_.end(); ++entry) {
-        if (entry->second == item) {
-            byKey_.erase(entry);
-            break;
-        }
-    }
+    const auto offset = static_cast<std::ptrdiff_t>(position - 1);
+    items_.erase(items_.begin() + offset);
+    if (!keys_) return item;
+    const auto key = keys_->OfPositions.begin() + offset;
+    if (*key) keys_->Items.erase(keys_->Items.find(**key));
+    keys_->OfPositions.erase(key);
     return item;
 }
 

@@ -3,6 +3,7 @@
 #include "quillgrid/base/CaseTables.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace quillgrid {
@@ -17,6 +18,18 @@ constexpr bool IsAscii(char32_t character) {
 }
 constexpr bool IsSurrogate(char32_t character) {
     return character >= 0xD800 && character <= 0xDFFF;
+}
+
+/// Length of the run of ASCII bytes in front.
+std::size_t AsciiRun(std::string_view text) {
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; length + sizeof word <= text.size(); length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((word & 0x8080808080808080U) != 0) break;
+    }
+    while (length < text.size() && IsAscii(static_cast<unsigned char>(text[length])))
+        ++length;
+    return length;
 }
 
 /// Bytes that a lead byte announces; 0 for a byte that cannot lead.
@@ -80,6 +93,10 @@ std::string MapText(std::string_view text, Map map) {
 }
 
 char32_t TakeFolded(std::string_view& text) {
+    if (const auto first = static_cast<unsigned char>(text.front()); first < 0x80) {
+        text.remove_prefix(1);
+        return FoldCase(first);
+    }
     const DecodedCharacter next = DecodeFirst(text);
     text.remove_prefix(next.Bytes);
     return FoldCase(next.Character);
@@ -140,7 +157,7 @@ void AppendUtf8(std::string& out, char32_t character) {
 }
 
 bool IsValidUtf8(std::string_view text) {
-    while (!text.empty()) {
+    for (text.remove_prefix(AsciiRun(text)); !text.empty(); text.remove_prefix(AsciiRun(text))) {
         const DecodedCharacter next = DecodeFirst(text);
         // A genuine U+FFFD takes three bytes, a malformed one is reported with one.
         if (next.Character == ReplacementCharacter && next.Bytes == 1) return false;
@@ -156,8 +173,12 @@ std::string RepairUtf8(std::string_view text) {
 
 std::size_t CharacterCount(std::string_view text) {
     std::size_t count = 0;
-    for (; !text.empty(); ++count)
+    while (!text.empty()) {
+        const std::size_t run = AsciiRun(text);
+        text.remove_prefix(run);
+        count += run + (text.empty() ? 0 : 1);
         text.remove_prefix(DecodeFirst(text).Bytes);
+    }
     return count;
 }
 

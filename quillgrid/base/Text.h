@@ -45,7 +45,7 @@ bool StartsWithIgnoreCase(std::string_view text, std::string_view prefix);
 /// Whether `character` occurs in `set`, ignoring case.
 bool ContainsIgnoreCase(std::string_view set, char32_t character);
 /// Byte position of the first occurrence, or npos; the matched bytes in `text` may differ in length from
-/// `part`, so `matchedBytes` receives theirs.
+/// `part`, so `matchedBytes` receives theirs. At worst in time of both lengths multiplied: for short parts.
 std::size_t FindIgnoreCase(std::string_view text, std::string_view part, std::size_t* matchedBytes = nullptr);
 /// Hash of the folded text, equal for texts that are equal ignoring case.
 std::size_t HashIgnoreCase(std::string_view text);

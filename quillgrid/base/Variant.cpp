@@ -3,6 +3,7 @@
 #include "quillgrid/base/Decimal.h"
 #include "quillgrid/base/Text.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace quillgrid {
@@ -45,7 +46,15 @@ std::optional<std::int32_t> WholeNumber(const Variant& value) {
     return std::nullopt;
 }
 
+/// The plain text of a double names exactly one number, so that the numbers can stand for their texts.
+bool SameText(double left, double right) {
+    return left == right || (std::isnan(left) && std::isnan(right));
+}
+
 } // namespace
+
+// Every cell keeps several of them.
+static_assert(sizeof(Variant) <= 40);
 
 bool Variant::IsNumber() const {
     const Type kind = Kind();
@@ -69,7 +78,10 @@ bool EqualAsText(const Variant& left, const Variant& right) {
     const auto leftWhole = WholeNumber(left);
     const auto rightWhole = WholeNumber(right);
     if (leftWhole && rightWhole) return *leftWhole == *rightWhole;
-    if (left.Kind() == right.Kind() && left.Kind() != Type::Double) return left == right;
+    if (left.Kind() == Type::Double && right.Kind() == Type::Double) {
+        return SameText(*left.Get<double>(), *right.Get<double>());
+    }
+    if (left.Kind() == right.Kind()) return left == right;
     return EqualIgnoreCase(left.ToPlainText(), right.ToPlainText());
 }
 

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 
 namespace quillgrid {
@@ -44,6 +45,22 @@ TEST(Currency, RoundsDoublesAtTheirExactValue) {
     EXPECT_EQ(Currency::FromDouble(5e-324)->ToText(), "0");
     for (const double bad : {std::nan(""), HUGE_VAL, -HUGE_VAL, 922337203685478.0, -1e300}) {
         EXPECT_FALSE(Currency::FromDouble(bad)) << bad;
+    }
+}
+
+TEST(Currency, RoundsAnyDoubleAsExactArithmeticDoes) {
+    // 53 bits times 10000 fit the 64 bits of this type, so that its own rounding is the reference.
+    if constexpr (std::numeric_limits<long double>::digits >= 64) {
+        std::mt19937_64 random(99);
+        for (int round = 0; round < 100'000; ++round) {
+            const int exponent = static_cast<int>(random() % 80) - 30;
+            const double number = std::ldexp(static_cast<double>(random() >> 11U), exponent - 53);
+            const long double exact = std::nearbyint(static_cast<long double>(number) * 10'000.0L);
+            const auto amount = Currency::FromDouble(-number);
+            ASSERT_EQ(amount.has_value(), exact <= 9'223'372'036'854'775'808.0L) << number;
+            if (!amount) continue;
+            ASSERT_EQ(static_cast<long double>(amount->Scaled()), -exact) << number;
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdlib>
@@ -35,6 +36,24 @@ TEST(Decimal, AnyDoubleSurvivesItsPlainText) {
     }
 }
 
+TEST(Decimal, ReadsLongTextsToTheNearestDouble) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 2'000; ++round) {
+        std::string text = random() % 2 == 0 ? "-" : "";
+        const std::size_t point = random() % 40;
+        for (std::size_t i = 0, digits = 1 + random() % 900; i < digits; ++i) {
+            if (i == point) text += '.';
+            text += static_cast<char>('0' + random() % 10);
+        }
+        if (text.find('.') == std::string::npos) text.resize(std::min<std::size_t>(text.size(), 300));
+        ASSERT_EQ(DoubleFromDecimal(text), std::strtod(text.c_str(), nullptr)) << text;
+    }
+    // One digit far behind decides between two neighbours.
+    const std::string tie = "9007199254740993." + std::string(800, '0');
+    EXPECT_EQ(DoubleFromDecimal(tie), 9007199254740992.0);
+    EXPECT_EQ(DoubleFromDecimal(tie + "1"), 9007199254740994.0);
+}
+
 TEST(Decimal, DigitsAreTheShortest) {
     const ShortestDigits digits = DigitsOf(-0.0125);
     EXPECT_EQ(std::string(digits.Digits), "125");
@@ -44,6 +63,10 @@ TEST(Decimal, DigitsAreTheShortest) {
     EXPECT_EQ(std::string(DigitsOf(1e22).Digits), "1");
     EXPECT_EQ(DigitsOf(1e22).Exponent, 22);
     EXPECT_EQ(PlainDecimal(0.1), "0.1");
+    EXPECT_EQ(PlainDecimal(-1e-7), "-0.0000001");
+    EXPECT_EQ(PlainDecimal(1e23), "1" + std::string(23, '0'))
+        << "shortest digits, not the exact binary value";
+    EXPECT_EQ(PlainDecimal(12345678.5), "12345678.5");
     EXPECT_EQ(PlainDecimal(-0.0), "0");
 }
 

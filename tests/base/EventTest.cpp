@@ -44,16 +44,46 @@ TEST(Event, SurvivesTheEndOfItsOwnerAndOfItsConnections) {
     event->Listen([&] { ++after; });
     event->Raise();
     EXPECT_EQ(event, nullptr);
-    EXPECT_EQ(after, 1);
+    EXPECT_EQ(after, 0) << "what it refers to may be gone with the event";
     held.Disconnect();
 
     Event<> living;
     {
         const Connection scoped = living.Connect([&] { ++after; });
+        living.Raise();
     }
     living.Raise();
     EXPECT_EQ(after, 1);
     EXPECT_FALSE(living.HasListeners());
+}
+
+TEST(Event, AListenerMayHoldTheLastReferenceToTheOwner) {
+    struct Owner {
+        Event<> Changed;
+    };
+    auto owner = std::make_shared<Owner>();
+    const std::weak_ptr<Owner> watch = owner;
+    Connection only = owner->Changed.Connect([owner] { EXPECT_GT(owner.use_count(), 0); });
+    Owner* const raw = owner.get();
+    owner.reset();
+    raw->Changed.Raise();
+    only.Disconnect(); // ends the listener, the owner in it and with it the list being changed
+    EXPECT_TRUE(watch.expired());
+}
+
+TEST(Event, RaisesInsideARaise) {
+    Event<int> event;
+    std::string calls;
+    Connection first = event.Connect([&](int depth) {
+        calls += "a";
+        if (depth < 2) event.Raise(depth + 1);
+        first.Disconnect();
+    });
+    event.Listen([&](int depth) { calls += std::to_string(depth); });
+    event.Raise(0);
+    EXPECT_EQ(calls, "aaa210");
+    event.Raise(5);
+    EXPECT_EQ(calls, "aaa2105");
 }
 
 TEST(Event, ExceptionsReachTheCallerAndLeaveTheEventUsable) {

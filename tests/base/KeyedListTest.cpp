@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace quillgrid {
 namespace {
@@ -48,6 +53,56 @@ TEST(KeyedList, InsertsAndRemovesByPosition) {
     EXPECT_EQ(list.PositionOf(list.Find("c").get()), 2U);
     EXPECT_TRUE(list.Append("B", Make(4))) << "the key is free again";
     EXPECT_EQ(list.RemoveAt(7), nullptr);
+}
+
+TEST(KeyedList, KeysFollowTheirPlacesThroughAnyChange) {
+    KeyedList<Item> list;
+    std::vector<std::pair<std::string, int>> model;
+    std::mt19937 random(7);
+    for (int round = 0; round < 5'000; ++round) {
+        const std::size_t place = random() % (model.size() + 1);
+        if (random() % 3 == 0 && place < model.size()) {
+            ASSERT_EQ(list.RemoveAt(place + 1)->Number, model[place].second);
+            model.erase(model.begin() + static_cast<std::ptrdiff_t>(place));
+        } else {
+            const std::string key =
+                round > 100 && random() % 2 == 0 ? "Key" + std::to_string(random() % 60) : "";
+            const bool taken =
+                !key.empty() && std::any_of(model.begin(), model.end(),
+                                            [&](const auto& entry) { return entry.first == key; });
+            ASSERT_EQ(list.Insert(place + 1, key, Make(round)), !taken);
+            if (!taken) model.insert(model.begin() + static_cast<std::ptrdiff_t>(place), {key, round});
+        }
+        ASSERT_EQ(list.Count(), model.size());
+    }
+    for (std::size_t i = 0; i < model.size(); ++i) {
+        ASSERT_EQ(list.At(i + 1)->Number, model[i].second);
+        const auto keyed = model[i].first.empty() ? nullptr : list.At(i + 1);
+        ASSERT_EQ(list.Find(model[i].first), keyed);
+    }
+}
+
+TEST(KeyedList, TheSameItemUnderTwoKeysKeepsTheOther) {
+    KeyedList<Item> list;
+    const auto item = Make(1);
+    list.Append("one", item);
+    list.Append("two", item);
+    list.RemoveAt(2);
+    EXPECT_TRUE(list.Contains("ONE"));
+    EXPECT_FALSE(list.Contains("two"));
+}
+
+TEST(KeyedList, MembersMayUseTheListAsItEnds) {
+    auto list = std::make_unique<KeyedList<Item>>();
+    std::size_t seen = 99;
+    auto item = Make(1);
+    item->AtEnd = [&, raw = list.get()] {
+        seen = raw->Count();
+        raw->Append("late", Make(2));
+    };
+    list->Append("key", std::move(item));
+    list.reset();
+    EXPECT_EQ(seen, 0U);
 }
 
 TEST(KeyedList, ClearShowsItsMembersAnEmptyList) {

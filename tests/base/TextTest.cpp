@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include <wctype.h>
 
 namespace quillgrid {
 namespace {
@@ -56,6 +60,8 @@ TEST(Text, DecodesTheSameFromBothEndsWhateverTheBytes) {
 
 TEST(Text, CountsAndCutsCodePoints) {
     EXPECT_EQ(CharacterCount("Grüße 😀"), 7U);
+    EXPECT_EQ(CharacterCount("äabcdefghijklmnopqüöabcdefgh\xFF"), 29U);
+    EXPECT_FALSE(IsValidUtf8("abcdefghijklmnop\x80qrstuvwxyz"));
     EXPECT_EQ(FirstCharacters("Grüße", 3), "Grü");
     EXPECT_EQ(FirstCharacters("ab", 5), "ab");
     EXPECT_EQ(FirstCharacters("ab", 0), "");
@@ -77,18 +83,48 @@ TEST(Text, ComparesWithoutCaseInLatinGreekAndCyrillic) {
     EXPECT_EQ(LowerCase("ÀΩЯ"), "àωя");
 }
 
+/// Folding maps to the small letter of the capital, but for these.
+bool FoldsByItself(char32_t character) {
+    for (const char32_t special : {U'ı', U'İ', U'\u1FD3', U'\u1FE3', U'\uFB05'}) {
+        if (character == special) return true;
+    }
+    return false;
+}
+
 TEST(Text, CaseMappingsFoldTogether) {
     for (char32_t character = 0; character < 0x11000; ++character) {
         const char32_t folded = FoldCase(character);
         ASSERT_EQ(FoldCase(folded), folded);
-        if (ToUpper(character) == U'I') continue; // also the capital of the dotless i
-        if (character == 0x130 || character == 0xA7F6) continue;
+        if (FoldsByItself(character)) continue;
+        ASSERT_EQ(folded, ToLower(ToUpper(character))) << std::hex << static_cast<unsigned>(character);
         ASSERT_EQ(FoldCase(ToUpper(character)), folded) << std::hex << static_cast<unsigned>(character);
         ASSERT_EQ(FoldCase(ToLower(character)), folded) << std::hex << static_cast<unsigned>(character);
     }
-    EXPECT_EQ(HashIgnoreCase("KÄSE"), HashIgnoreCase("käse"));
+    EXPECT_EQ(FoldCase(U'ı'), U'ı');
+    EXPECT_EQ(FoldCase(U'İ'), U'İ');
+    EXPECT_EQ(FoldCase(U'\u1FD3'), U'\u0390') << "two encodings of one letter";
+    EXPECT_EQ(HashIgnoreCase("KÄSE \u2168"), HashIgnoreCase("käse \u2178"));
     EXPECT_NE(HashIgnoreCase("KÄSE"), HashIgnoreCase("Kase"));
 }
+
+#ifdef __GLIBC__
+TEST(Text, CaseMappingsAgreeWithTheSystem) {
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    ASSERT_NE(locale, nullptr);
+    constexpr std::pair<char32_t, char32_t> blocks[] = {{0, 0x052F},      {0x1C80, 0x1C88}, {0x1D00, 0x1DBF},
+                                                        {0x1E00, 0x1FFF}, {0x2100, 0x218F}, {0x24B6, 0x24E9},
+                                                        {0x2C60, 0x2C7F}, {0xA640, 0xA69F}, {0xA720, 0xA7FF},
+                                                        {0xAB30, 0xAB6F}, {0xFB00, 0xFB06}, {0xFF00, 0xFF5E}};
+    for (const auto& [first, last] : blocks) {
+        for (char32_t character = first; character <= last; ++character) {
+            const auto wide = static_cast<wint_t>(character);
+            EXPECT_EQ(ToUpper(character), towupper_l(wide, locale)) << std::hex << wide;
+            EXPECT_EQ(ToLower(character), towlower_l(wide, locale)) << std::hex << wide;
+        }
+    }
+    freelocale(locale);
+}
+#endif
 
 TEST(Text, FindsWithoutCase) {
     std::size_t matched = 0;

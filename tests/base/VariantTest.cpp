@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace quillgrid {
 namespace {
 
@@ -18,6 +20,9 @@ TEST(Variant, EqualAsTextLooksThroughTypes) {
     EXPECT_TRUE(EqualAsText("Ärger", "ÄRGER"));
     EXPECT_TRUE(EqualAsText(true, "true"));
     EXPECT_TRUE(EqualAsText(0.0, -0.0));
+    EXPECT_FALSE(EqualAsText(0.1 + 0.2, 0.3));
+    EXPECT_TRUE(EqualAsText(std::nan(""), -std::nan(""))) << "both read nan";
+    EXPECT_TRUE(EqualAsText(1e23, "100000000000000000000000"));
     const Variant object = std::make_shared<std::any>(5);
     EXPECT_FALSE(EqualAsText(object, object));
     EXPECT_FALSE(object == object);
