@@ -1,0 +1,116 @@
+"""A record editor under test: its process, its window, its database."""
+
+import os
+import shutil
+import sqlite3
+import subprocess
+import time
+
+PATIENCE = 20  # seconds; the machine may be busy with other things
+
+
+class Impatient(AssertionError):
+    """What was waited for did not come."""
+
+
+def wait_for(what, question, patience=PATIENCE):
+    """Asks until the answer is true, and returns it."""
+    end = time.monotonic() + patience
+    while True:
+        answer = question()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Impatient(f"waited {patience} s for {what}")
+        time.sleep(0.05)
+
+
+def xdotool(*arguments):
+    run = subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True, check=False)
+    return run.stdout.strip()
+
+
+class Desktop:
+    """The window manager: without one no window is ever active."""
+
+    def __enter__(self):
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"], stderr=subprocess.DEVNULL)
+        wait_for("the window manager", lambda: xdotool("get_num_desktops").isdigit())
+        return self
+
+    def __exit__(self, *_):
+        self.manager.terminate()
+        self.manager.wait()
+
+
+class Editor:
+    """The editor on its own copy of the sample database."""
+
+    def __init__(self, program, sample, folder, table="companies"):
+        self.database = os.path.join(folder, "edited.sqlite")
+        shutil.copyfile(sample, self.database)
+        self.table = table
+        self.process = subprocess.Popen([program, self.database, "--table", table, "--locale", "de_DE"],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+        self.window = wait_for("the editor's window", self._find_window)
+        wait_for("the editor to be active", lambda: self.active_title().startswith(table))
+
+    def _find_window(self):
+        if self.process.poll() is not None:
+            raise Impatient(f"the editor ended with {self.process.returncode}: "
+                            f"{self.process.stderr.read().decode(errors='replace')}")
+        found = xdotool("search", "--onlyvisible", "--pid", self.process.pid, "--name", f"^{self.table}")
+        return found.splitlines()[0] if found else None
+
+    @staticmethod
+    def active_title():
+        return xdotool("getactivewindow", "getwindowname")
+
+    def title(self):
+        return xdotool("getwindowname", self.window)
+
+    def is_modified(self):
+        return self.title().endswith("*")
+
+    def press(self, *keys):
+        for key in keys:
+            xdotool("key", "--clearmodifiers", key)
+
+    def down(self, rows):
+        self.press(*["Down"] * rows)
+
+    def type(self, text):
+        xdotool("type", "--delay", 20, "--", text)
+
+    def click(self, x, y):
+        xdotool("mousemove", "--window", self.window, x, y, "click", 1)
+
+    def save(self):
+        self.press("ctrl+s")
+        wait_for("the title without the mark of a change", lambda: not self.is_modified())
+
+    def wait_for_dialog(self):
+        wait_for("a dialog", lambda: self.active_title().startswith("Unsaved"))
+
+    def wait_for_form(self):
+        wait_for("the form", lambda: self.active_title().startswith(self.table))
+
+    def rows(self, query, *values):
+        with sqlite3.connect(f"file:{self.database}?mode=ro", uri=True, timeout=10) as database:
+            database.row_factory = sqlite3.Row
+            return [dict(row) for row in database.execute(query, values)]
+
+    def record(self, number):
+        return self.rows("SELECT * FROM companies WHERE id = ?", number)[0]
+
+    def picture(self, path):
+        subprocess.run(["import", "-window", "root", path], check=False)
+
+    def close(self):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+        self.process.stderr.close()
+
+    def wait_for_end(self):
+        return self.process.wait(timeout=PATIENCE)

@@ -1,0 +1,202 @@
+"""What a person does with the record editor, one function each, checked against the database file."""
+
+import os
+import sys
+import tempfile
+import traceback
+
+from desktop import Desktop, Editor, wait_for
+
+# Rows of the form: the columns of the table in their order.
+NAME, LEGAL_FORM, EMPLOYEES, CAPITAL, FOUNDED, OPENS = 1, 2, 7, 8, 12, 13
+
+
+def expect(what, actual, wanted):
+    if actual != wanted:
+        raise AssertionError(f"{what}: {actual!r} instead of {wanted!r}")
+
+
+def expect_changes(before, after, **wanted):
+    """Exactly these columns differ."""
+    expect("changed columns", {name: after[name] for name in after if after[name] != before[name]}, wanted)
+
+
+def typing_is_saved(editor):
+    before = editor.record(1)
+    editor.down(NAME)
+    editor.type("Möwe & Söhne €")
+    editor.press("Return")
+    editor.down(EMPLOYEES - NAME - 1)
+    editor.type("1.50")
+    editor.press("Return")
+    editor.type("1234,5")
+    editor.press("Return")
+    wait_for("the mark of a change", editor.is_modified)
+    expect("the database before saving", editor.record(1), before)
+    editor.save()
+    after = editor.record(1)
+    expect("share capital", float(after.pop("share_capital")), 1234.5)
+    before.pop("share_capital")
+    expect_changes(before, after, name="Möwe & Söhne €", employees=150)
+
+
+def short_entries_are_completed(editor):
+    before = editor.record(1)
+    editor.down(FOUNDED)
+    editor.type("3.5.1931")
+    editor.press("Return")
+    editor.type("8")
+    editor.press("Return")
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    expect_changes(before, editor.record(1), founded_on="1931-05-03", opens_at="08:00:00")
+
+
+def refused_input_stays_and_escape_takes_it_back(editor):
+    before = editor.record(1)
+    editor.down(FOUNDED)
+    editor.type("31.2.2020")
+    editor.press("Return")
+    editor.press("ctrl+s", "ctrl+Next")
+    expect("the database after a refused date", editor.record(1), before)
+    # Still in the same cell of the same record: a good date in place of the bad one is taken.
+    editor.press("ctrl+a")
+    editor.type("28.2.2020")
+    editor.press("Return")
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    expect_changes(before, editor.record(1), founded_on="2020-02-28")
+
+
+def escape_undoes_the_typing(editor):
+    before = editor.record(1)
+    editor.down(NAME)
+    editor.type("Not this")
+    editor.press("Escape", "Return")
+    editor.press("ctrl+s")
+    editor.press("ctrl+Next")
+    editor.down(NAME)
+    editor.type("Second")
+    editor.press("Return")
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    expect("the first record", editor.record(1), before)
+    expect("the second record's name", editor.record(2)["name"], "Second")
+
+
+def records_are_walked(editor):
+    for number in (1, 2, 3):
+        editor.press("ctrl+Home")
+        editor.down(NAME)
+        editor.type(f"Company {number}")
+        editor.save()
+        editor.press("ctrl+Next")
+    editor.press("ctrl+Prior", "ctrl+Prior")
+    editor.down(NAME)
+    editor.type("Again 2")
+    editor.save()
+    names = [row["name"] for row in editor.rows("SELECT name FROM companies ORDER BY id LIMIT 3")]
+    expect("names", names, ["Company 1", "Again 2", "Company 3"])
+
+
+def new_record_is_added(editor):
+    count = len(editor.rows("SELECT id FROM companies"))
+    editor.press("ctrl+n")
+    editor.down(NAME)
+    editor.type("Neue Wege")
+    editor.press("Return")
+    editor.type("KG")
+    editor.press("Return")
+    editor.down(EMPLOYEES - LEGAL_FORM - 1)
+    editor.type("3")
+    editor.press("Return")
+    editor.down(FOUNDED - EMPLOYEES - 1)
+    editor.type("1.4.2024")
+    editor.press("Return")
+    editor.press("ctrl+s")
+    wait_for("one record more", lambda: len(editor.rows("SELECT id FROM companies")) == count + 1)
+    row = editor.rows("SELECT * FROM companies ORDER BY id DESC LIMIT 1")[0]
+    expect("the new record", [row[name] for name in ("name", "legal_form", "country", "employees", "founded_on")],
+           ["Neue Wege", "KG", "DE", 3, "2024-04-01"])
+
+
+def leaving_asks_about_changes(editor):
+    before = editor.record(1)
+    editor.down(NAME)
+    editor.type("Asked")
+    editor.press("ctrl+Next")
+    editor.wait_for_dialog()
+    editor.press("Escape")
+    editor.wait_for_form()
+    expect("the database after Cancel", editor.record(1), before)
+    editor.press("ctrl+Next")
+    editor.wait_for_dialog()
+    editor.press("Return")
+    editor.wait_for_form()
+    wait_for("the saved name", lambda: editor.record(1)["name"] == "Asked")
+    expect_changes(before, editor.record(1), name="Asked")
+
+
+def typed_text_survives_closing(editor):
+    editor.down(NAME)
+    editor.type("Typed last")
+    editor.press("alt+F4")
+    editor.wait_for_dialog()
+    editor.press("Return")
+    expect("exit status", editor.wait_for_end(), 0)
+    expect("the saved name", editor.record(1)["name"], "Typed last")
+
+
+def click_chooses_the_cell(editor):
+    """The first pixel rows of the form hold the first cell, the lines below it the others."""
+    before = editor.record(1)
+    editor.click(300, 100)
+    editor.press("ctrl+a")
+    editor.type("OHG")
+    editor.press("Tab")
+    editor.press("ctrl+s")
+    editor.press("ctrl+Home")
+    changed = {name for name, value in editor.record(1).items() if value != before[name]}
+    expect("columns changed by a click and typing in a list that has no such entry", changed, set())
+    editor.click(300, 80)
+    editor.press("ctrl+a")
+    editor.type("Clicked")
+    editor.press("Return")
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    expect_changes(before, editor.record(1), name="Clicked")
+
+
+SCENARIOS = [typing_is_saved, short_entries_are_completed, refused_input_stays_and_escape_takes_it_back,
+             escape_undoes_the_typing, records_are_walked, new_record_is_added, leaving_asks_about_changes,
+             typed_text_survives_closing, click_chooses_the_cell]
+
+
+def run(scenario, program, sample, pictures):
+    with tempfile.TemporaryDirectory() as folder:
+        editor = None
+        try:
+            editor = Editor(program, sample, folder)
+            scenario(editor)
+            print(f"passed: {scenario.__name__}", flush=True)
+            return True
+        except Exception:  # whatever it was, the other scenarios still count
+            print(f"failed: {scenario.__name__}", flush=True)
+            traceback.print_exc(file=sys.stdout)
+            return False
+        finally:
+            if editor:
+                editor.picture(os.path.join(pictures, scenario.__name__ + ".png"))
+                editor.close()
+
+
+def main(program, sample, pictures, *names):
+    chosen = [scenario for scenario in SCENARIOS if not names or scenario.__name__ in names]
+    with Desktop():
+        results = [run(scenario, program, sample, pictures) for scenario in chosen]
+    print(f"{sum(results)} passed, {len(results) - sum(results)} failed")
+    return 0 if results and all(results) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
