@@ -9,7 +9,7 @@ namespace quillgrid {
 
 namespace {
 
-__extension__ typedef unsigned __int128 Wide; // ISO C++ has no type of 128 bits
+__extension__ using Wide = unsigned __int128; // ISO C++ has no type of 128 bits
 
 constexpr std::int64_t Highest = std::numeric_limits<std::int64_t>::max();
 constexpr Wide LowestMagnitude = static_cast<Wide>(Highest) + 1;
