@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QUuid>
 
+#include <algorithm>
 #include <array>
 
 namespace quillgrid::editor {
@@ -39,6 +40,16 @@ Outcome<Done> FindFile(const QString& file) {
     if (info.isDir()) return Failure{QStringLiteral("“%1” is a folder, not a database.").arg(file)};
     if (!info.isReadable()) return Failure{QStringLiteral("The file “%1” may not be read.").arg(file)};
     return Done{};
+}
+
+/// Rows that break a rule of their own table are whole; they can be shown and put right.
+bool IsDamage(const QString& verdict) {
+    if (verdict == u"ok" || verdict.startsWith(u"CHECK constraint failed")) return false;
+    static constexpr std::array<QStringView, 5> valueVerdicts{u"NULL value in ", u"NUMERIC value in ",
+                                                              u"TEXT value in ", u"non-INT value in ",
+                                                              u"non-BLOB value in "};
+    return std::none_of(valueVerdicts.begin(), valueVerdicts.end(),
+                        [&](QStringView start) { return verdict.startsWith(start); });
 }
 
 struct Hint {
@@ -127,11 +138,15 @@ Outcome<Done> Database::CheckFile(const QString& file) const {
     if (const auto read = Run(QStringLiteral("SELECT count(*) FROM sqlite_master")); !read)
         return read.Reason();
     if (QFileInfo(file).size() > LargestCheckedFile) return Done{};
-    auto check = Run(QStringLiteral("PRAGMA quick_check(1)"));
+    auto check = Run(QStringLiteral("PRAGMA quick_check(100)"));
     if (!check) return check.Reason();
-    const QString verdict = check->next() ? check->value(0).toString() : Explain(check->lastError());
-    if (verdict == u"ok") return Done{};
-    return Failure{QStringLiteral("The database file is damaged. (%1)").arg(verdict.simplified())};
+    while (check->next()) {
+        const QString verdict = check->value(0).toString().simplified();
+        if (IsDamage(verdict))
+            return Failure{QStringLiteral("The database file is damaged. (%1)").arg(verdict)};
+    }
+    if (check->lastError().isValid()) return Failure{Explain(check->lastError())};
+    return Done{};
 }
 
 Outcome<Done> Database::OpenServer(const DatabaseAddress& address) {
@@ -149,7 +164,13 @@ Outcome<Done> Database::OpenServer(const DatabaseAddress& address) {
 
 Outcome<QSqlQuery> Database::Run(const QString& sql, const QVariantList& values) const {
     QSqlQuery query(Connection());
-    query.setForwardOnly(true);
+    // PostgreSQL's driver loses the rest of a forward-only result as soon as another statement runs.
+    query.setForwardOnly(!dialect_.IsPostgres());
+    // Without values nothing needs preparing, and servers do not prepare every kind of statement.
+    if (values.isEmpty()) {
+        if (query.exec(sql)) return query;
+        return Failure{Explain(query.lastError())};
+    }
     if (!query.prepare(sql)) return Failure{Explain(query.lastError())};
     for (const QVariant& value : values)
         query.addBindValue(value);

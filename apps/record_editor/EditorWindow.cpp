@@ -78,7 +78,6 @@ EditorWindow::EditorWindow(std::unique_ptr<Database> database, QList<TableName> 
       settings_(SettingsFor(locale())),
       question_(AskInABox) {
     widget_ = new quillgrid::qt::QuillgridWidget(this);
-    widget_->grid().SetLanguage(settings_.Language);
     makeTools();
     makeTableChooser();
     makeLines();
@@ -168,6 +167,7 @@ void EditorWindow::makeLines() {
     setCentralWidget(centre);
     status_ = new QLabel(this);
     status_->setTextFormat(Qt::PlainText);
+    status_->setIndent(4);
     statusBar()->addWidget(status_, 1);
 }
 
@@ -212,8 +212,17 @@ bool EditorWindow::openTable(const TableName& table) {
     } else {
         form_->ShowNew();
     }
+    selectFirstEditableRow();
     showState();
     return true;
+}
+
+void EditorWindow::selectFirstEditableRow() {
+    for (const auto& cell : widget_->grid().Cells()) {
+        if (!cell->Visible() || cell->Locked()) continue;
+        cell->SetFocus();
+        return;
+    }
 }
 
 void EditorWindow::setSelectedTable(const QString& shown) {

@@ -76,6 +76,7 @@ private:
     void showMessage(const QString& text, bool isError = true);
     void showState();
     void drawIcons();
+    void selectFirstEditableRow();
     void setSelectedTable(const QString& shown);
 
     std::unique_ptr<Database> database_;

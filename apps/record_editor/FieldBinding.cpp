@@ -18,7 +18,8 @@ bool IsSameValue(const Variant& now, const Variant& before) {
     const auto* text = now.Get<std::string>();
     const auto* old = before.Get<std::string>();
     if (text && old) return *text == *old || *text == TrimBlanks(*old);
-    return now == before || (now.IsNumber() && before.IsNumber() && EqualAsText(now, before));
+    // The data of a list's entry and the text read from the database mean the same value.
+    return now == before || EqualAsText(now, before);
 }
 
 QString VisibleLineBreaks(QString text) {
@@ -57,12 +58,14 @@ FieldBinding::FieldBinding(ColumnRule rule, std::shared_ptr<Cell> cell, FieldCod
       locale_(std::move(locale)),
       readOnly_(readOnly) {}
 
-void FieldBinding::DefineCell() {
+void FieldBinding::DefineCell(bool mayBeNothing) {
     const bool isList = !rule_.Choices.isEmpty();
     cell_->Clear();
     cell_->Define({.NewCaption = Variant(rule_.Caption.toStdString()),
                    .NewCellTemplate = isList ? qgctlist : rule_.Template});
     if (isList) FillList();
+    // Without such an entry a list cannot show "nothing", nor be set back to it.
+    if (mayBeNothing && IsList()) cell_->Listitems().Add({.Text = "", .ItemData = Variant("")});
     if (!rule_.Min.IsNull()) cell_->SetMin(rule_.Min);
     if (!rule_.Max.IsNull()) cell_->SetMax(rule_.Max);
     if (rule_.Kind == ValueKind::Text) {
@@ -79,7 +82,6 @@ void FieldBinding::DefineCell() {
 }
 
 void FieldBinding::FillList() {
-    if (rule_.NullAllowed) cell_->Listitems().Add({.Text = "", .ItemData = Variant("")});
     for (const Choice& choice : rule_.Choices) {
         const Variant image = choice.Image.isEmpty() ? Variant::Null() : Variant(choice.Image.toStdString());
         cell_->Listitems().Add({.Text = choice.Text.toStdString(),
@@ -89,15 +91,21 @@ void FieldBinding::FillList() {
 }
 
 void FieldBinding::Load(const FieldValue& value) {
+    Fill(value, rule_.NullAllowed);
+    shown_ = baseline_ = Current();
+}
+
+void FieldBinding::Fill(const FieldValue& value, bool mayBeNothing) {
     loaded_ = value;
     forceNull_ = false;
-    DefineCell();
+    DefineCell(mayBeNothing);
     const auto decoded = DecodeLoaded();
-    if (decoded && !decoded->IsNull()) cell_->SetValue(*decoded);
-    if (decoded && cell_->Style() == qgcsList && decoded->IsNull()) cell_->SetValue(Variant(""));
+    if (decoded && IsList())
+        cell_->SetValue(decoded->IsNull() ? Variant("") : *decoded);
+    else if (decoded && !decoded->IsNull())
+        cell_->SetValue(*decoded);
     fits_ = decoded && IsShownExactly(*decoded);
     if (!fits_) ShowAsIs();
-    shown_ = baseline_ = Current();
 }
 
 std::optional<Variant> FieldBinding::DecodeLoaded() const {
@@ -110,24 +118,26 @@ std::optional<Variant> FieldBinding::DecodeLoaded() const {
 }
 
 void FieldBinding::LoadNew() {
-    Load(rule_.Default);
     const bool nothing = rule_.Default.IsNull();
-    // A template that always shows something (no, Mrs.) saves what it shows: it differs from nothing.
+    Fill(rule_.Default, true);
     if (nothing && !fits_) {
-        DefineCell();
+        DefineCell(true);
         fits_ = true;
     }
     loaded_ = {};
-    shown_ = baseline_ = Current();
-    if (nothing) baseline_ = Variant::Null();
+    shown_ = Current();
+    // A cell that always shows something (yes or no) saves what it shows.
+    baseline_ = nothing ? Variant::Null() : shown_;
+}
+
+bool FieldBinding::IsList() const {
+    return cell_->Style() == qgcsList && cell_->ValidationRule() != qgvrBoolean;
 }
 
 bool FieldBinding::IsShownExactly(const Variant& value) const {
     if (IsNothing(value)) return cell_->Text().empty();
-    if (cell_->Style() == qgcsList && cell_->ValidationRule() != qgvrBoolean) {
-        return cell_->ListIndex() >= 1 && EqualAsText(cell_->ItemData(), value);
-    }
-    const Variant shown = cell_->Value();
+    const Variant shown = Current();
+    if (IsList()) return cell_->ListIndex() >= 1 && EqualAsText(shown, value);
     if (const auto* text = value.Get<std::string>()) return shown.ToPlainText() == *text;
     return shown == value || (shown.IsNumber() && EqualAsText(shown, value));
 }
@@ -161,9 +171,10 @@ QString FieldBinding::Hint() const {
 }
 
 Variant FieldBinding::Current() const {
-    const bool isList = cell_->Style() == qgcsList && cell_->ValidationRule() != qgvrBoolean;
-    if (isList && cell_->ListIndex() < 1) return Variant::Null();
-    return cell_->Value();
+    const bool isBoolean = cell_->ValidationRule() == qgvrBoolean;
+    if ((isBoolean || IsList()) && cell_->ListIndex() < 1) return Variant::Null();
+    // The list's data of a boolean cell are numbers.
+    return isBoolean ? Variant(cell_->ListIndex() == 1) : cell_->Value();
 }
 
 bool FieldBinding::Differs(const Variant& from) const {
@@ -183,7 +194,7 @@ bool FieldBinding::IsChanged() const {
 
 void FieldBinding::SetNull() {
     if (cell_->Locked() || !rule_.NullAllowed) return;
-    cell_->SetValue(cell_->Style() == qgcsList ? Variant("") : Variant::Null());
+    cell_->SetValue(IsList() ? Variant("") : Variant::Null());
     forceNull_ = IsNothing(Current());
 }
 

@@ -43,7 +43,9 @@ public:
 
 private:
     std::optional<Variant> DecodeLoaded() const;
-    void DefineCell();
+    void Fill(const FieldValue& value, bool mayBeNothing);
+    void DefineCell(bool mayBeNothing);
+    bool IsList() const;
     void FillList();
     void ShowAsIs();
     bool IsShownExactly(const Variant& value) const;

@@ -22,6 +22,7 @@ RecordForm::RecordForm(Quillgrid& grid, Database& database, TableSchema schema)
 
 void RecordForm::MakeCells(const QList<ColumnRule>& rules, const FormSettings& settings, bool postgres) {
     grid_.Clear();
+    grid_.SetLanguage(settings.Language);
     bindings_.reserve(static_cast<std::size_t>(rules.size()));
     for (const ColumnRule& rule : rules) {
         // Names that differ in case only share a key; cells get along without one.
@@ -52,7 +53,9 @@ void RecordForm::Shown(qsizetype position, bool isNew) {
     position_ = position;
     isNew_ = isNew;
     grid_.SetSilent(false);
-    grid_.Refresh();
+    grid_.Update(); // Escape returns to what was loaded
+    // The edit box still holds what belonged to the record before.
+    if (const auto cell = grid_.Cell()) cell->Undo();
 }
 
 Outcome<Done> RecordForm::Show(qsizetype position) {

@@ -6,6 +6,7 @@
 #include "apps/record_editor/WindowStyle.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -37,7 +38,6 @@ bool HasDisplay() {
 /// Before the application exists: its platform and scale cannot be changed afterwards.
 void PrepareSurroundings(CommandLine& line) {
     if (line.Picture.isEmpty() && !HasDisplay()) {
-        std::printf("There is no display; the form goes to a picture instead.\n");
         line.Picture = QStringLiteral("record_editor.png");
     }
     if (line.Picture.isEmpty()) return;
@@ -70,6 +70,7 @@ Outcome<TableName> FindTable(const QList<TableName>& tables, const QString& want
 int WritePicture(EditorWindow& window, const CommandLine& line) {
     window.activateWindow();
     window.widget().setFocus();
+    QCursor::setPos(window.mapToGlobal(QPoint(window.width() - 1, window.height() - 1))); // no tool lights up
     QApplication::processEvents();
     if (!window.grab().save(line.Picture, "PNG")) {
         return Complain(QStringLiteral("The picture “%1” cannot be written.").arg(line.Picture));
