@@ -37,6 +37,7 @@ bool Separates(char32_t mark, bool first, bool last, const InputShape& shape) {
 
 } // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the room is filled as far as it is read
 InputNormaliser::InputNormaliser(std::string_view text, const InputShape& shape) {
     char* at = end_ = MakeRoom(text.size());
     const std::size_t size = text.size();

@@ -22,9 +22,13 @@ InputShape DecimalShape(const InputContext& context) {
     return {.Separator = '.', .MostSeparators = 1, .SeparatorCharacters = context.Separators.Number};
 }
 
+bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
 /// A lone minus or point, or nothing at all, reads as 0.
 bool HasDigits(std::string_view plain) {
-    return !plain.empty() && plain.find_first_not_of("-.") != plain.npos;
+    return std::any_of(plain.begin(), plain.end(), IsDigit);
 }
 
 std::optional<std::int32_t> ReadLong(std::string_view plain) {
