@@ -54,5 +54,6 @@ CREATE TABLE data_dictionary (
     "Caption_de" TEXT,
     "TooltipText" TEXT,
     "TooltipText_de" TEXT,
+    "Format" TEXT,
     PRIMARY KEY (table_name, column_name)
 );

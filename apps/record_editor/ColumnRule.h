@@ -35,6 +35,7 @@ struct ColumnRule {
     bool NullAllowed = true;         ///< whether "nothing" is kept as NULL
     std::optional<QString> Format{}; ///< instead of the template's
     std::optional<QString> Unit{};
+    bool HidesImage = false; ///< the template's image would promise more than the column says
     std::optional<QString> Charlist{};
     QList<Choice> Choices;
     FieldValue Default; ///< what the database puts into a new record, as far as it is a constant

@@ -254,8 +254,7 @@ void EditorWindow::goLast() {
 
 void EditorWindow::goTo(qsizetype position) {
     if (!form_ || position < 0 || position >= form_->Count() || !mayLeave()) return;
-    const auto shown = form_->Show(position);
-    showMessage(shown.Message());
+    showResult(form_->Show(position));
     showState();
 }
 
@@ -277,7 +276,7 @@ bool EditorWindow::saveRecord() {
         return true;
     }
     const auto saved = form_->Save();
-    showMessage(saved ? QString() : QStringLiteral("Not saved: %1").arg(saved.Message()));
+    showResult(saved, QStringLiteral("Not saved: "));
     showState();
     return static_cast<bool>(saved);
 }
@@ -285,8 +284,7 @@ bool EditorWindow::saveRecord() {
 void EditorWindow::revertRecord() {
     if (!form_) return;
     // What is being typed goes with the rest: the cells are filled again whatever the edit box holds.
-    const auto reverted = form_->Revert();
-    showMessage(reverted.Message());
+    showResult(form_->Revert());
     showState();
 }
 
@@ -330,6 +328,13 @@ QString EditorWindow::message() const {
 
 QString EditorWindow::statusText() const {
     return status_->text();
+}
+
+void EditorWindow::showResult(const Outcome<Done>& result, const QString& introduction) {
+    if (result)
+        showHint(widget_->grid().Cell());
+    else
+        showMessage(introduction + result.Message());
 }
 
 void EditorWindow::showMessage(const QString& text, bool isError) {

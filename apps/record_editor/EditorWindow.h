@@ -74,6 +74,8 @@ private:
     bool offerToSave();
     void chooseTable(int index);
     void showMessage(const QString& text, bool isError = true);
+    /// An error, or else what there is to say about the current cell.
+    void showResult(const Outcome<Done>& result, const QString& introduction = {});
     void showState();
     void drawIcons();
     void selectFirstEditableRow();

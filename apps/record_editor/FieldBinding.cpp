@@ -72,13 +72,24 @@ void FieldBinding::DefineCell(bool mayBeNothing) {
         cell_->SetMaxLength(rule_.MaxLength >= 0 ? rule_.MaxLength : SqlDialect::LongestText);
     }
     if (rule_.Format) cell_->SetFormat(rule_.Format->toStdString());
-    if (rule_.Format) cell_->SetListImage(Variant::Null());
+    if (rule_.HidesImage) cell_->SetListImage(Variant::Null());
+    if (IsForeignEuro()) cell_->SetFormat("Standard");
     if (rule_.Unit) cell_->SetUnit(rule_.Unit->toStdString());
     if (rule_.Charlist) cell_->SetCharlist(rule_.Charlist->toStdString());
     cell_->SetAllowEmpty(rule_.AllowEmpty);
-    cell_->SetLocked(rule_.Locked || readOnly_);
+    Lock(rule_.Locked || readOnly_);
     cell_->SetVisible(rule_.Visible);
     cell_->SetTooltipText(rule_.ToolTip.toStdString());
+}
+
+/// Where people pay in another currency, its symbol beside euros would be wrong; the unit "EUR" is not.
+bool FieldBinding::IsForeignEuro() const {
+    return cell_->Template() == qgctEuro && !rule_.Format && locale_.CurrencySymbol != "€";
+}
+
+void FieldBinding::Lock(bool locked) {
+    cell_->SetLocked(locked);
+    if (locked) cell_->SetForeColor(ColourGreyText);
 }
 
 void FieldBinding::FillList() {
@@ -151,18 +162,18 @@ void FieldBinding::ShowAsIs() {
     cell_->Define({.NewCaption = Variant(caption.toStdString()), .NewCellTemplate = qgctNone});
     cell_->SetMaxLength(2 * SqlDialect::LongestText);
     cell_->SetValue(Variant(VisibleLineBreaks(loaded_.Text).toStdString()));
-    cell_->SetLocked(!editable || rule_.Locked || readOnly_);
+    Lock(!editable || rule_.Locked || readOnly_);
     cell_->SetVisible(rule_.Visible);
     cell_->SetFontItalic(!expected);
-    cell_->SetTooltipText(Hint().toStdString());
+    cell_->SetTooltipText((Hint().isEmpty() ? rule_.ToolTip : Hint()).toStdString());
 }
 
 QString FieldBinding::Hint() const {
-    if (fits_ || loaded_.IsNull()) return rule_.ToolTip;
+    if (fits_ || loaded_.IsNull()) return {};
     if (loaded_.Kind == FieldValue::Storage::Binary) return QStringLiteral("Binary data are not shown.");
     if (loaded_.Kind == FieldValue::Storage::LongText)
         return QStringLiteral("Only the beginning of this text is shown.");
-    if (rule_.Kind == ValueKind::Unreadable) return rule_.ToolTip;
+    if (rule_.Kind == ValueKind::Unreadable) return {};
     if (FieldCodec::HasControlCharacters(loaded_.Text)) {
         return QStringLiteral("Text of several lines is shown here but cannot be edited in one line.");
     }

@@ -46,6 +46,8 @@ private:
     void Fill(const FieldValue& value, bool mayBeNothing);
     void DefineCell(bool mayBeNothing);
     bool IsList() const;
+    bool IsForeignEuro() const;
+    void Lock(bool locked);
     void FillList();
     void ShowAsIs();
     bool IsShownExactly(const Variant& value) const;

@@ -68,11 +68,9 @@ Decoded DecodeReal(const QString& text) {
 
 Decoded DecodeDate(const QString& text) {
     if (!Matches(text, "[0-9]{4}-[0-9]{2}-[0-9]{2}")) return std::nullopt;
-    const int year = text.first(4).toInt();
-    const int month = text.sliced(5, 2).toInt();
-    const int day = text.sliced(8, 2).toInt();
-    if (!IsValidDate(year, month, day)) return std::nullopt;
-    return Variant(DateTime{*DayFromParts(year, month, day), 0});
+    const auto day = DayFromDate(text.first(4).toInt(), text.sliced(5, 2).toInt(), text.sliced(8, 2).toInt());
+    if (!day) return std::nullopt;
+    return Variant(DateTime{*day, 0});
 }
 
 Decoded DecodeTime(const QString& text) {
