@@ -41,8 +41,8 @@ constexpr bool IsValidDay(std::int64_t day) {
 
 /// Days in a month (1 to 12) of a year of the proleptic Gregorian calendar.
 int DaysInMonth(int year, int month);
-/// Whether the three parts name a day of the calendar in years 100 to 9999, without normalisation.
-bool IsValidDate(std::int64_t year, std::int64_t month, std::int64_t day);
+/// The day number of a date whose parts must name a day of the calendar in years 100 to 9999.
+std::optional<std::int32_t> DayFromDate(std::int32_t year, std::int32_t month, std::int32_t day);
 
 /// The day number of a date whose parts may lie outside their ranges: month 13 is January of the next year,
 /// day 0 the last day of the previous month. Nothing when the result leaves years 100 to 9999 or when a part

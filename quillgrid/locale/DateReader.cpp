@@ -37,8 +37,7 @@ bool ReadThree(std::string_view text, char separator, std::ptrdiff_t mostDigits,
 
 std::optional<std::int32_t> DayOf(std::int32_t typedYear, std::int32_t month, std::int32_t day) {
     const std::optional<int> year = ExpandYear(typedYear);
-    if (!year || !IsValidDate(*year, month, day)) return std::nullopt;
-    return DayFromParts(*year, month, day);
+    return year ? DayFromDate(*year, month, day) : std::nullopt;
 }
 
 std::optional<std::int32_t> DayOfThree(Numbers numbers, DateOrder order) {

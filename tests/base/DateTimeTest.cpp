@@ -27,6 +27,7 @@ TEST(DateTime, AgreesWithTheStandardCalendarOnEveryDay) {
         ASSERT_EQ(parts.Month, static_cast<int>(static_cast<unsigned>(date.month())));
         ASSERT_EQ(parts.Day, static_cast<int>(static_cast<unsigned>(date.day())));
         ASSERT_EQ(DayFromParts(parts.Year, parts.Month, parts.Day), day);
+        ASSERT_EQ(DayFromDate(parts.Year, parts.Month, parts.Day), day);
         ASSERT_EQ(Weekday(day), static_cast<int>(weekday(sys_days(date)).c_encoding()) + 1);
     }
 }
@@ -46,6 +47,18 @@ TEST(DateTime, NormalisesPartsAndKeepsToTheValidYears) {
     EXPECT_FALSE(AddWeeks(0, huge));
     EXPECT_FALSE(AddMonths(0, tiny));
     EXPECT_FALSE(AddYears(0, huge));
+}
+
+TEST(DateTime, DatesAreTakenAsTheyStandOrNotAtAll) {
+    EXPECT_FALSE(DayFromDate(2026, 2, 29));
+    EXPECT_FALSE(DayFromDate(1900, 2, 29));
+    EXPECT_TRUE(DayFromDate(2000, 2, 29));
+    EXPECT_FALSE(DayFromDate(2026, 4, 31));
+    EXPECT_FALSE(DayFromDate(2026, 0, 1));
+    EXPECT_FALSE(DayFromDate(2026, 13, 1));
+    EXPECT_FALSE(DayFromDate(99, 12, 31));
+    EXPECT_FALSE(DayFromDate(10'000, 1, 1));
+    EXPECT_FALSE(DayFromDate(2026, 1, std::numeric_limits<std::int32_t>::max()));
 }
 
 TEST(DateTime, MonthsAndYearsKeepToTheLastDay) {
