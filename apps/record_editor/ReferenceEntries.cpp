@@ -37,8 +37,10 @@ Outcome<QList<Choice>> ReadReferenceEntries(const Database& database, const Fore
     if (entries.size() > limit) return QList<Choice>();
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::stable_sort(entries.begin(), entries.end(),
-                     [&](const Choice& a, const Choice& b) { return collator.compare(a.Text, b.Text) < 0; });
+    std::sort(entries.begin(), entries.end(), [&](const Choice& a, const Choice& b) {
+        const int order = collator.compare(a.Text, b.Text);
+        return order != 0 ? order < 0 : a.Value.Text < b.Value.Text;
+    });
     return entries;
 }
 
