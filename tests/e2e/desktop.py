@@ -4,6 +4,7 @@ import os
 import shutil
 import sqlite3
 import subprocess
+import tempfile
 import time
 
 PATIENCE = 20  # seconds; the machine may be busy with other things
@@ -34,13 +35,18 @@ class Desktop:
     """The window manager: without one no window is ever active."""
 
     def __enter__(self):
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], stderr=subprocess.DEVNULL)
-        wait_for("the window manager", lambda: xdotool("get_num_desktops").isdigit())
+        self.folder = tempfile.TemporaryDirectory()
+        # A window that opens while the manager still starts may never be told that it is active.
+        ready = os.path.join(self.folder.name, "ready")
+        self.manager = subprocess.Popen(["openbox", "--sm-disable", "--startup", f"touch {ready}"],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for("the window manager", lambda: os.path.exists(ready))
         return self
 
     def __exit__(self, *_):
         self.manager.terminate()
         self.manager.wait()
+        self.folder.cleanup()
 
 
 class Editor:
@@ -52,15 +58,17 @@ class Editor:
         self.table = table
         self.process = subprocess.Popen([program, self.database, "--table", table, "--locale", "de_DE"],
                                         stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
-        self.window = wait_for("the editor's window", self._find_window)
-        wait_for("the editor to be active", lambda: self.active_title().startswith(table))
+        self.window = None
 
-    def _find_window(self):
+    def wait_for_window(self):
+        self.window = wait_for("the editor's window to be active", self._active_window)
+
+    def _active_window(self):
         if self.process.poll() is not None:
             raise Impatient(f"the editor ended with {self.process.returncode}: "
                             f"{self.process.stderr.read().decode(errors='replace')}")
-        found = xdotool("search", "--onlyvisible", "--pid", self.process.pid, "--name", f"^{self.table}")
-        return found.splitlines()[0] if found else None
+        window = xdotool("getactivewindow")
+        return window if window and xdotool("getwindowpid", window) == str(self.process.pid) else None
 
     @staticmethod
     def active_title():
@@ -76,8 +84,9 @@ class Editor:
         for key in keys:
             xdotool("key", "--clearmodifiers", key)
 
-    def down(self, rows):
-        self.press(*["Down"] * rows)
+    def go_to(self, row):
+        """Rows count from 0, from wherever the form stands."""
+        self.press("ctrl+Home", *["Down"] * row)
 
     def type(self, text):
         xdotool("type", "--delay", 20, "--", text)
