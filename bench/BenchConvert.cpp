@@ -29,8 +29,10 @@ void ConvertRule(benchmark::State& state, const char* text, ValidationRuleConsta
     rules.Rule = rule;
     CountedRun(state, [&] {
         Variant value = text;
-        if (ConvertInput(value, rules, context) != qgErrNone) state.SkipWithError("refused");
-        return value;
+        const ValidationErrConstants result = ConvertInput(value, rules, context);
+        if (result != qgErrNone) state.SkipWithError("refused");
+        benchmark::DoNotOptimize(value);
+        return result;
     });
 }
 

@@ -29,10 +29,6 @@ static_assert(DayOfCivil(1899, 12, 30) == 0);
 static_assert(DayOfCivil(FirstYear, 1, 1) == FirstDay);
 static_assert(DayOfCivil(LastYear, 12, 31) == LastDay);
 
-constexpr bool IsLeapYear(int year) {
-    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-}
-
 std::optional<std::int32_t> ValidDay(std::int64_t day) {
     if (!IsValidDay(day)) return std::nullopt;
     return static_cast<std::int32_t>(day);
@@ -59,22 +55,6 @@ std::int64_t FirstWeekStart(std::int64_t year, DayOfWeekConstants firstDay,
 }
 
 } // namespace
-
-int DaysInMonth(int year, int month) {
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && IsLeapYear(year) ? 29 : days[std::clamp(month, 1, 12) - 1];
-}
-
-std::optional<std::int32_t> DayFromDate(std::int32_t year, std::int32_t month, std::int32_t day) {
-    if (year < FirstYear || year > LastYear || month < 1 || month > 12 || day < 1) return std::nullopt;
-    if (day > 28 && day > DaysInMonth(year, month)) return std::nullopt;
-    // As DayOfCivil, without the eras: unsigned 32-bit division is what typed dates spend most of their time
-    // on.
-    const auto y = static_cast<std::uint32_t>(month <= 2 ? year - 1 : year);
-    const auto marchMonth = static_cast<std::uint32_t>(month > 2 ? month - 3 : month + 9);
-    const std::uint32_t days = y * 365 + y / 4 - y / 100 + y / 400 + (153 * marchMonth + 2) / 5;
-    return static_cast<std::int32_t>(days) + day - 1 - static_cast<std::int32_t>(EpochShift);
-}
 
 std::optional<std::int32_t> DayFromParts(std::int64_t year, std::int64_t month, std::int64_t day) {
     // Keeps the sums below within 64 bits.

@@ -40,9 +40,24 @@ constexpr bool IsValidDay(std::int64_t day) {
 }
 
 /// Days in a month (1 to 12) of a year of the proleptic Gregorian calendar.
-int DaysInMonth(int year, int month);
-/// The day number of a date whose parts must name a day of the calendar in years 100 to 9999.
-std::optional<std::int32_t> DayFromDate(std::int32_t year, std::int32_t month, std::int32_t day);
+constexpr int DaysInMonth(int year, int month) {
+    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    return month == 2 && leap ? 29 : days[month < 1 ? 0 : month > 12 ? 11 : month - 1];
+}
+
+/// The day number of a date whose parts must name a day of the calendar in years 100 to 9999. Here to be
+/// inlined: in 32 bits and without eras it is what reading a typed date spends most of its time on.
+constexpr std::optional<std::int32_t> DayFromDate(std::int32_t year, std::int32_t month, std::int32_t day) {
+    if (year < FirstYear || year > LastYear || month < 1 || month > 12 || day < 1) return std::nullopt;
+    if (day > 28 && day > DaysInMonth(year, month)) return std::nullopt;
+    // Years begin in March, so that the leap day is the last one.
+    const auto y = static_cast<std::uint32_t>(month <= 2 ? year - 1 : year);
+    const auto m = static_cast<std::uint32_t>(month > 2 ? month - 3 : month + 9);
+    const std::uint32_t daysBefore = y * 365 + y / 4 - y / 100 + y / 400 + (153 * m + 2) / 5;
+    constexpr std::int32_t daysBeforeEpoch = 693'899; // from 1 March 0000 to 30 December 1899
+    return static_cast<std::int32_t>(daysBefore) + day - 1 - daysBeforeEpoch;
+}
 
 /// The day number of a date whose parts may lie outside their ranges: month 13 is January of the next year,
 /// day 0 the last day of the previous month. Nothing when the result leaves years 100 to 9999 or when a part

@@ -257,6 +257,7 @@ std::size_t HashIgnoreCase(std::string_view text) {
 }
 
 std::string_view TrimBlanks(std::string_view text) {
+    if (!text.empty() && text.front() != ' ' && text.back() != ' ') return text;
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);

@@ -54,6 +54,9 @@ std::optional<std::int32_t> RecogniseDay(std::string_view text, const Locale& lo
 }
 
 std::optional<std::int32_t> DayFromText(std::string_view text, const InputContext& context) {
+    // A date typed in full needs no rebuilding.
+    const auto full = ReadDateParts(text, context.UserLocale.Order, context.Separators.Date);
+    if (full) return full;
     InputNormaliser typed(text, DateShape(context));
     CompleteDate(typed, context.Today);
     const auto day = ReadDateParts(typed.Text(), OrderOfTyped(typed.Separators(), context.UserLocale.Order));
@@ -92,14 +95,16 @@ std::optional<std::int32_t> DayFromInput(const Variant& value, const InputContex
     if (const auto* date = value.Get<DateTime>()) {
         return IsValidDay(date->Day) ? std::optional(date->Day) : std::nullopt;
     }
-    return DayFromText(InputText(value, context.UserLocale).View(), context);
+    return WithInputText(value, context.UserLocale,
+                         [&](std::string_view text) { return DayFromText(text, context); });
 }
 
 std::optional<std::int32_t> SecondFromInput(const Variant& value, const InputContext& context) {
     if (const auto* date = value.Get<DateTime>()) {
         return IsValidSecond(date->Second) ? std::optional(date->Second) : std::nullopt;
     }
-    return SecondFromText(InputText(value, context.UserLocale).View(), context);
+    return WithInputText(value, context.UserLocale,
+                         [&](std::string_view text) { return SecondFromText(text, context); });
 }
 
 } // namespace quillgrid

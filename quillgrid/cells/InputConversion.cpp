@@ -14,7 +14,7 @@ namespace {
 
 /// Whether a value has no text at all.
 bool IsBlank(const Variant& value) {
-    if (const auto* text = value.Get<std::string>()) return TrimBlanks(*text).empty();
+    if (const auto* text = value.Get<std::string>()) return text->find_first_not_of(' ') == std::string::npos;
     return value.IsNull() || value.IsEmpty() || value.Kind() == Variant::Type::Object;
 }
 

@@ -17,11 +17,6 @@ constexpr bool IsCaseless(char32_t mark) {
     return mark < 0x80 && !(mark >= U'A' && mark <= U'Z') && !(mark >= U'a' && mark <= U'z');
 }
 
-DecodedCharacter LastCharacter(std::string_view text) {
-    const auto byte = static_cast<unsigned char>(text.back());
-    return byte < 0x80 ? DecodedCharacter{byte, 1} : DecodeLast(text);
-}
-
 bool IsAmong(std::string_view characters, char32_t mark) {
     if (!IsCaseless(mark)) return ContainsIgnoreCase(characters, mark);
     const auto isMark = [mark](char c) { return static_cast<unsigned char>(c) == mark; };
@@ -39,26 +34,28 @@ bool Separates(char32_t mark, bool first, bool last, const InputShape& shape) {
 
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the room is filled as far as it is read
 InputNormaliser::InputNormaliser(std::string_view text, const InputShape& shape) {
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
     char* at = end_ = MakeRoom(text.size());
-    const std::size_t size = text.size();
-    while (!text.empty()) {
-        if (IsDigit(text.back())) {
-            *--at = text.back();
-            text.remove_suffix(1);
+    for (const char* from = end; from != begin;) {
+        if (IsDigit(from[-1])) {
+            *--at = *--from;
             continue;
         }
-        const DecodedCharacter mark = LastCharacter(text);
-        const bool first = mark.Bytes == text.size();
-        const bool last = text.size() == size;
-        if (shape.IsNumber && mark.Character == U'-') {
-            if (first) *--at = '-';
-        } else if (separators_ < shape.MostSeparators && Separates(mark.Character, first, last, shape)) {
-            *--at = shape.Separator;
-            ++separators_;
-        }
-        text.remove_suffix(mark.Bytes);
+        const DecodedCharacter mark = DecodeLast({begin, static_cast<std::size_t>(from - begin)});
+        const bool last = from == end;
+        from -= mark.Bytes;
+        if (const char kept = Kept(mark.Character, from == begin, last, shape)) *--at = kept;
     }
     begin_ = at;
+}
+
+/// What a character that is no digit becomes at its place in the text: 0 where it is dropped.
+char InputNormaliser::Kept(char32_t mark, bool first, bool last, const InputShape& shape) {
+    if (shape.IsNumber && mark == U'-') return first ? '-' : '\0';
+    if (separators_ == shape.MostSeparators || !Separates(mark, first, last, shape)) return '\0';
+    ++separators_;
+    return shape.Separator;
 }
 
 void InputNormaliser::Append(std::string_view suffix) {

@@ -35,6 +35,7 @@ public:
     static constexpr std::size_t SuffixRoom = 8;
 
 private:
+    char Kept(char32_t mark, bool first, bool last, const InputShape& shape);
     char* MakeRoom(std::size_t characters);
 
     // Enough for the largest double with two decimals and a unit.

@@ -9,21 +9,12 @@
 
 namespace quillgrid {
 
-/// The text of a value without blanks at its ends: a view where the value is text, else written for the
-/// occasion.
-class InputText {
-public:
-    InputText(const Variant& value, const Locale& locale) : typed_(value.Get<std::string>()) {
-        if (!typed_) written_ = ToText(value, locale);
-    }
-    InputText(const InputText&) = delete;
-    InputText& operator=(const InputText&) = delete;
-
-    std::string_view View() const { return TrimBlanks(typed_ ? *typed_ : written_); }
-
-private:
-    const std::string* typed_;
-    std::string written_;
-};
+/// What `use` makes of the text of a value without blanks at its ends. What is text already is not copied.
+template <typename Use>
+auto WithInputText(const Variant& value, const Locale& locale, Use use) {
+    if (const auto* typed = value.Get<std::string>()) return use(TrimBlanks(*typed));
+    const std::string written = ToText(value, locale);
+    return use(TrimBlanks(written));
+}
 
 } // namespace quillgrid

@@ -53,24 +53,24 @@ std::optional<double> ReadDouble(std::string_view plain) {
 
 std::optional<std::int32_t> LongFromInput(const Variant& value, const InputContext& context) {
     if (value.IsNumber()) return ToLong(value, context.UserLocale);
-    const InputText text(value, context.UserLocale);
-    return ReadLong(InputNormaliser(text.View(), IntegerShape()).Text());
+    return WithInputText(value, context.UserLocale, [](std::string_view text) {
+        return ReadLong(InputNormaliser(text, IntegerShape()).Text());
+    });
 }
 
 std::optional<Currency> CurrencyFromInput(const Variant& value, const InputContext& context) {
     if (value.IsNumber()) return ToCurrency(value, context.UserLocale);
-    const InputText text(value, context.UserLocale);
-    return ReadCurrency(InputNormaliser(text.View(), DecimalShape(context)).Text());
+    return WithInputText(value, context.UserLocale, [&](std::string_view text) {
+        return ReadCurrency(InputNormaliser(text, DecimalShape(context)).Text());
+    });
 }
 
 std::optional<double> DoubleFromInput(const Variant& value, const InputContext& context) {
-    std::optional<double> number;
-    if (value.IsNumber()) {
-        number = ToDouble(value, context.UserLocale);
-    } else {
-        const InputText text(value, context.UserLocale);
-        number = ReadDouble(InputNormaliser(text.View(), DecimalShape(context)).Text());
-    }
+    const auto typed = [&](std::string_view text) {
+        return ReadDouble(InputNormaliser(text, DecimalShape(context)).Text());
+    };
+    const auto number = value.IsNumber() ? ToDouble(value, context.UserLocale)
+                                         : WithInputText(value, context.UserLocale, typed);
     if (!number || !std::isfinite(*number)) return std::nullopt;
     return *number + 0.0;
 }

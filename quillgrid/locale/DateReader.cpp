@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <span>
+#include <utility>
 
 namespace quillgrid {
 
@@ -15,24 +16,33 @@ using Numbers = std::span<const Number>;
 
 constexpr int LeastYearDigits = 3;
 
-/// Three runs of one to `mostDigits` digits with exactly `separator` between them and nothing else.
-bool ReadThree(std::string_view text, char separator, std::ptrdiff_t mostDigits, Number (&numbers)[3]) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    for (Number& number : numbers) {
-        const char* const begin = at;
-        const char* const limit = begin + std::min(end - begin, mostDigits);
-        std::int32_t value = 0;
-        for (; at != limit && *at >= '0' && *at <= '9'; ++at)
-            value = value * 10 + (*at - '0');
-        if (at == begin) return false;
-        number.Value = value;
-        number.Digits = static_cast<int>(at - begin);
-        if (&number == &numbers[2]) break;
-        if (at == end || *at != separator) return false;
-        ++at;
+/// Digits that stand together.
+struct Run {
+    std::int32_t Value = 0;
+    std::int32_t Digits = 0;
+};
+
+bool IsOneOf(std::string_view characters, char character) {
+    return std::any_of(characters.begin(), characters.end(), [character](char c) { return c == character; });
+}
+
+/// Three runs of one to `mostDigits` digits (9 at most) with one of the separators between them and nothing
+/// else.
+bool ReadThree(std::string_view text, std::string_view separators, std::int32_t mostDigits, Run (&runs)[3]) {
+    Run run;
+    std::size_t count = 0;
+    for (const char c : text) {
+        const auto digit = static_cast<std::uint32_t>(static_cast<unsigned char>(c)) - '0';
+        if (digit <= 9) {
+            if (++run.Digits > mostDigits) return false;
+            run.Value = run.Value * 10 + static_cast<std::int32_t>(digit);
+            continue;
+        }
+        if (run.Digits == 0 || count == 2 || !IsOneOf(separators, c)) return false;
+        runs[count++] = std::exchange(run, {});
     }
-    return at == end;
+    runs[2] = run;
+    return count == 2 && run.Digits > 0;
 }
 
 std::optional<std::int32_t> DayOf(std::int32_t typedYear, std::int32_t month, std::int32_t day) {
@@ -40,16 +50,17 @@ std::optional<std::int32_t> DayOf(std::int32_t typedYear, std::int32_t month, st
     return year ? DayFromDate(*year, month, day) : std::nullopt;
 }
 
-std::optional<std::int32_t> DayOfThree(Numbers numbers, DateOrder order) {
-    const std::int32_t first = numbers[0].Value;
-    const std::int32_t second = numbers[1].Value;
-    const std::int32_t third = numbers[2].Value;
-    if (numbers[0].Digits >= LeastYearDigits) return DayOf(first, second, third);
+std::optional<std::int32_t> DayOfThree(Run first, std::int32_t second, std::int32_t third, DateOrder order) {
+    if (first.Digits >= LeastYearDigits) return DayOf(first.Value, second, third);
     switch (order) {
-    case DateOrder::MonthDayYear: return DayOf(third, first, second);
-    case DateOrder::YearMonthDay: return DayOf(first, second, third);
-    default: return DayOf(third, second, first);
+    case DateOrder::MonthDayYear: return DayOf(third, first.Value, second);
+    case DateOrder::YearMonthDay: return DayOf(first.Value, second, third);
+    default: return DayOf(third, second, first.Value);
     }
+}
+
+std::optional<std::int32_t> DayOfThree(Numbers numbers, DateOrder order) {
+    return DayOfThree({numbers[0].Value, numbers[0].Digits}, numbers[1].Value, numbers[2].Value, order);
 }
 
 std::optional<std::int32_t> DayOfTwo(Numbers numbers, int month) {
@@ -172,17 +183,18 @@ std::optional<int> ExpandYear(std::int64_t typed) {
     return year + (year < firstOfLastCentury ? 2000 : 1900);
 }
 
-std::optional<std::int32_t> ReadDateParts(std::string_view text, DateOrder order) {
-    constexpr std::ptrdiff_t mostDigits = 9;
-    Number numbers[3];
-    if (!ReadThree(text, '/', mostDigits, numbers)) return std::nullopt;
-    return DayOfThree(numbers, order);
+std::optional<std::int32_t> ReadDateParts(std::string_view text, DateOrder order,
+                                          std::string_view separators) {
+    constexpr std::int32_t mostDigits = 9;
+    Run runs[3];
+    if (!ReadThree(text, separators, mostDigits, runs)) return std::nullopt;
+    return DayOfThree(runs[0], runs[1].Value, runs[2].Value, order);
 }
 
 std::optional<std::int32_t> ReadTimeParts(std::string_view text) {
-    Number numbers[3];
-    if (!ReadThree(text, ':', 2, numbers)) return std::nullopt;
-    return SecondsFromParts(numbers[0].Value, numbers[1].Value, numbers[2].Value);
+    Run runs[3];
+    if (!ReadThree(text, ":", 2, runs)) return std::nullopt;
+    return SecondsFromParts(runs[0].Value, runs[1].Value, runs[2].Value);
 }
 
 std::optional<RecognisedDateTime> RecogniseDateTime(std::string_view text, const Locale& locale) {
