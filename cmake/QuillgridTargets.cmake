@@ -10,10 +10,6 @@ function(quillgrid_options target)
   set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF POSITION_INDEPENDENT_CODE ON
                                           CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
-  # g++ 12 takes the assignment of a literal to a string for an overlap once it optimises (its bug 105651).
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(${target} PRIVATE -Wno-restrict)
-  endif()
   if(QUILLGRID_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
