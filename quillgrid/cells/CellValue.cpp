@@ -51,6 +51,12 @@ bool IsChange(const Variant& before, const Variant& after) {
     return (after.IsNull() && !before.IsNull()) || !EqualAsText(before, after);
 }
 
+/// Multiplies first: 7 percent of 100 are 7 and nothing behind the point, unless the product leaves a double.
+double ShareOf(double range, double percentage) {
+    const double product = percentage * range;
+    return std::isfinite(product) ? product / 100.0 : percentage / 100.0 * range;
+}
+
 } // namespace
 
 Variant Cell::Value() const {
@@ -178,7 +184,7 @@ void Cell::SetPercentValue(Currency percentage) {
     const double range = Range();
     if (range == 0.0 || limited == 0.0) return;
     const auto alive = weak_from_this().lock();
-    StoreValue(Variant(limited / 100.0 * range));
+    StoreValue(Variant(ShareOf(range, limited)));
     RefreshText();
     Refresh();
 }

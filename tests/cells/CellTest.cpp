@@ -168,6 +168,18 @@ TEST_F(CellTest, PercentageIsClampedAndZeroChangesNothing) {
     EXPECT_EQ(cell->PercentValue(), Currency{});
 }
 
+TEST_F(CellTest, WholePercentagesOfAHundredStayWhole) {
+    const auto cell = Add(qgctPercent, 0);
+    for (int percentage = 1; percentage <= 100; ++percentage) {
+        cell->SetPercentValue(Money(percentage));
+        EXPECT_EQ(cell->Value(), Variant(static_cast<double>(percentage)));
+    }
+    const double half = std::numeric_limits<double>::max() / 2;
+    cell->SetMax(half);
+    cell->SetPercentValue(Money(100));
+    EXPECT_EQ(cell->Value(), Variant(half));
+}
+
 TEST_F(CellTest, PercentageOfAShiftedRangeIgnoresItsStart) {
     const auto cell = Add(qgctNumber, 10);
     cell->SetMin(10);
