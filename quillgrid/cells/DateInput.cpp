@@ -95,6 +95,7 @@ std::optional<std::int32_t> DayFromInput(const Variant& value, const InputContex
     if (const auto* date = value.Get<DateTime>()) {
         return IsValidDay(date->Day) ? std::optional(date->Day) : std::nullopt;
     }
+    if (value.IsNumber()) return std::nullopt; // 12.5 is no more the 12th of May than 46342 is a day
     return WithInputText(value, context.UserLocale,
                          [&](std::string_view text) { return DayFromText(text, context); });
 }

@@ -10,7 +10,7 @@
 
 namespace quillgrid {
 
-/// The day number; a date variant loses its time.
+/// The day number; a date variant loses its time, a number is no date.
 std::optional<std::int32_t> DayFromInput(const Variant& value, const InputContext& context);
 /// Seconds since midnight; a date variant loses its day.
 std::optional<std::int32_t> SecondFromInput(const Variant& value, const InputContext& context);

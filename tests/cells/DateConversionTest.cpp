@@ -30,7 +30,9 @@ TEST_F(DateConversion, NoDayOfTheCalendarIsRefused) {
           "1.1.10000", "1.2.3.4.5.6.7", "10:61", "99999999999999999999.1.1"}) {
         EXPECT_EQ(Converted(text), Variant("error 20002")) << text;
     }
-    EXPECT_EQ(Converted(46342.0), Variant("error 20002")) << "only date variants and texts are dates";
+    for (const Variant& number : {Variant(46342.0), Variant(12), Variant(12.5), Variant(std::int16_t{3}),
+                                  Variant(Currency::FromScaled(30000))})
+        EXPECT_EQ(Converted(number), Variant("error 20002")) << "only date variants and texts are dates";
     EXPECT_EQ(Converted(true), Variant("error 20002"));
     EXPECT_EQ(Converted(DateTime{LastDay + 1, 0}), Variant("error 20002"));
     Today = LastDay + 7;
