@@ -23,10 +23,16 @@ bool IsAmong(std::string_view characters, char32_t mark) {
     return std::any_of(characters.begin(), characters.end(), isMark);
 }
 
+/// The no-break and thin blanks too: newer locales write one of them in front of AM and PM, and "1:05:09 PM"
+/// without its blank would be a complete time in the morning.
+constexpr bool IsBlank(char32_t mark) {
+    return mark == U' ' || mark == U'\u00A0' || mark == U'\u2009' || mark == U'\u202F';
+}
+
 /// Whether a character that is no digit stands for a separator at its place in the text.
 bool Separates(char32_t mark, bool first, bool last, const InputShape& shape) {
     if (last || (first && !shape.IsNumber)) return false;
-    if (mark == U' ' || mark == U'+' || mark == U'-') return !shape.IsNumber;
+    if (mark == U'+' || mark == U'-' || IsBlank(mark)) return !shape.IsNumber;
     return IsAmong(shape.SeparatorCharacters, mark);
 }
 

@@ -94,6 +94,9 @@ TEST_F(DateConversion, TimesAreCompletedAndTwentyFourIsMidnight) {
         {"9-5+7", Time(9, 5, 7)},
         {"9:00 PM", Time(21, 0, 0)},
         {"9:05:07 am", Time(9, 5, 7)},
+        {"1:05:09\u202FPM", Time(13, 5, 9)},
+        {"1:05\u00A0PM", Time(13, 5, 0)},
+        {"12\u200930", Time(12, 30, 0)},
         {"12.3.2027 10:30:00", Time(10, 30, 0)},
         {"12.3.2027", Time(0, 0, 0)},
     };
