@@ -10,38 +10,39 @@ namespace {
 
 // German money and times are written here; Austria and Switzerland change a few fields.
 Locale Germany() {
-    Locale german;
-    german.Name = "de-DE";
-    german.DecimalSeparator = ",";
-    german.GroupSeparator = ".";
-    german.CurrencySymbol = "€";
-    german.CurrencySymbolPlace = CurrencyPlace::AfterWithBlank;
-    german.Order = DateOrder::DayMonthYear;
-    german.ShortDate = "dd.mm.yyyy";
-    german.MediumDate = "d. mmm yyyy";
-    german.LongDate = "dddd, d. mmmm yyyy";
-    german.LongTime = "hh:nn:ss";
-    german.ShortTime = "hh:nn";
-    german.MediumTime = "hh:nn AM/PM";
-    german.DateSeparator = ".";
-    german.TimeSeparator = ":";
-    german.Am = "AM";
-    german.Pm = "PM";
-    german.MonthNames = {"Januar", "Februar", "März",      "April",   "Mai",      "Juni",
-                         "Juli",   "August",  "September", "Oktober", "November", "Dezember"};
-    german.ShortMonthNames = {"Jan", "Feb", "Mär", "Apr", "Mai", "Jun",
-                              "Jul", "Aug", "Sep", "Okt", "Nov", "Dez"};
-    german.DayNames = {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"};
-    german.ShortDayNames = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
-    german.Yes = "Ja";
-    german.No = "Nein";
-    german.True = "Wahr";
-    german.False = "Falsch";
-    german.On = "Ein";
-    german.Off = "Aus";
-    german.FirstDayOfWeek = qgdwMonday;
-    german.FirstWeekOfYear = qgfwFirstFourDays;
-    return german;
+    return {
+        .Name = "de-DE",
+        .DecimalSeparator = ",",
+        .GroupSeparator = ".",
+        .CurrencySymbol = "€",
+        .CurrencySymbolPlace = CurrencyPlace::AfterWithBlank,
+        .Order = DateOrder::DayMonthYear,
+        .ShortDate = "dd.mm.yyyy",
+        .MediumDate = "d. mmm yyyy",
+        .LongDate = "dddd, d. mmmm yyyy",
+        .LongTime = "hh:nn:ss",
+        .ShortTime = "hh:nn",
+        .MediumTime = "hh:nn AM/PM",
+        .DateSeparator = ".",
+        .TimeSeparator = ":",
+        .Am = "AM",
+        .Pm = "PM",
+        .MonthNames = {"Januar", "Februar", "März", "April", "Mai", "Juni", "Juli", "August", "September",
+                       "Oktober", "November", "Dezember"},
+        .ShortMonthNames = {"Jan", "Feb", "Mär", "Apr", "Mai", "Jun", "Jul", "Aug", "Sep", "Okt", "Nov",
+                            "Dez"},
+        .DayNames = {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"},
+        .ShortDayNames = {"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"},
+        .Yes = "Ja",
+        .No = "Nein",
+        .True = "Wahr",
+        .False = "Falsch",
+        .On = "Ein",
+        .Off = "Aus",
+        .FirstDayOfWeek = qgdwMonday,
+        .FirstWeekOfYear = qgfwFirstFourDays,
+        .CompareText = {},
+    };
 }
 
 Locale Austria() {
@@ -64,38 +65,39 @@ Locale Switzerland() {
 }
 
 Locale UnitedStates() {
-    Locale american;
-    american.Name = "en-US";
-    american.DecimalSeparator = ".";
-    american.GroupSeparator = ",";
-    american.CurrencySymbol = "$";
-    american.CurrencySymbolPlace = CurrencyPlace::Before;
-    american.Order = DateOrder::MonthDayYear;
-    american.ShortDate = "m/d/yyyy";
-    american.MediumDate = "mmm d, yyyy";
-    american.LongDate = "dddd, mmmm d, yyyy";
-    american.LongTime = "h:nn:ss AM/PM";
-    american.ShortTime = "hh:nn";
-    american.MediumTime = "hh:nn AM/PM";
-    american.DateSeparator = "/";
-    american.TimeSeparator = ":";
-    american.Am = "AM";
-    american.Pm = "PM";
-    american.MonthNames = {"January", "February", "March",     "April",   "May",      "June",
-                           "July",    "August",   "September", "October", "November", "December"};
-    american.ShortMonthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    american.DayNames = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-    american.ShortDayNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-    american.Yes = "Yes";
-    american.No = "No";
-    american.True = "True";
-    american.False = "False";
-    american.On = "On";
-    american.Off = "Off";
-    american.FirstDayOfWeek = qgdwSunday;
-    american.FirstWeekOfYear = qgfwFirstJan1;
-    return american;
+    return {
+        .Name = "en-US",
+        .DecimalSeparator = ".",
+        .GroupSeparator = ",",
+        .CurrencySymbol = "$",
+        .CurrencySymbolPlace = CurrencyPlace::Before,
+        .Order = DateOrder::MonthDayYear,
+        .ShortDate = "m/d/yyyy",
+        .MediumDate = "mmm d, yyyy",
+        .LongDate = "dddd, mmmm d, yyyy",
+        .LongTime = "h:nn:ss AM/PM",
+        .ShortTime = "hh:nn",
+        .MediumTime = "hh:nn AM/PM",
+        .DateSeparator = "/",
+        .TimeSeparator = ":",
+        .Am = "AM",
+        .Pm = "PM",
+        .MonthNames = {"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                       "October", "November", "December"},
+        .ShortMonthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov",
+                            "Dec"},
+        .DayNames = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"},
+        .ShortDayNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
+        .Yes = "Yes",
+        .No = "No",
+        .True = "True",
+        .False = "False",
+        .On = "On",
+        .Off = "Off",
+        .FirstDayOfWeek = qgdwSunday,
+        .FirstWeekOfYear = qgfwFirstJan1,
+        .CompareText = {},
+    };
 }
 
 Locale UnitedKingdom() {
