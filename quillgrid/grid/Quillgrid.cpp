@@ -3,6 +3,7 @@
 #include "quillgrid/cells/CellAccess.h"
 #include "quillgrid/cells/LanguageTexts.h"
 #include "quillgrid/grid/GridCore.h"
+#include "quillgrid/resources/StringTable.h"
 
 #include <algorithm>
 #include <limits>
@@ -112,7 +113,9 @@ void Quillgrid::SetSilent(bool silent) {
 }
 
 std::string Quillgrid::ErrorMessage(std::int32_t errorCode) const {
-    return ErrorText(errorCode);
+    const auto text = StoredText(errorCode);
+    if (!text) throw RaiseControlError(qgerrUserDefined, "Quillgrid.ErrorMessage Method");
+    return std::string(*text);
 }
 
 void Quillgrid::LoadRecord(const Record& record) {

@@ -53,7 +53,7 @@ public:
     bool Valid() const;
     bool Silent() const;
     void SetSilent(bool silent);
-    /// The message of a validation code; any number of the string table works.
+    /// The message of a validation code; any number of the string table works, another one is error 20099.
     std::string ErrorMessage(std::int32_t errorCode) const;
     /// Fills every cell from the field of its key's name; Null empties the cell. Silent is false afterwards.
     void LoadRecord(const Record& record);

@@ -226,6 +226,22 @@ TEST(Settings, AddRefusesATakenKeyAndEndsSilent) {
     EXPECT_FALSE(host.Grid->Silent());
 }
 
+TEST(Settings, ErrorMessageKnowsTheStringTableAndNothingElse) {
+    const HeadlessHost host;
+    EXPECT_EQ(host.Grid->ErrorMessage(20010), "Eingabe erforderlich");
+    EXPECT_EQ(host.Grid->ErrorMessage(21010), "Input required");
+    EXPECT_EQ(host.Grid->ErrorMessage(10001), "ja");
+    for (const std::int32_t missing : {0, -1, 20012, 21011, std::numeric_limits<std::int32_t>::max()}) {
+        try {
+            host.Grid->ErrorMessage(missing);
+            FAIL() << missing << " has no text";
+        } catch (const ControlError& error) {
+            EXPECT_EQ(error.Code(), qgerrUserDefined);
+            EXPECT_EQ(error.Source(), "Quillgrid.ErrorMessage Method.Quillgrid");
+        }
+    }
+}
+
 TEST(Settings, LanguageRefillsListsAndKeepsValues) {
     HeadlessHost host;
     const auto flag = host.Grid->Add({.Key = "f", .Value = Variant(false), .CellTemplate = qgctboolean});

@@ -81,6 +81,17 @@ TEST_F(QtWidget, RefusedTextIsExplainedAtItsCellUntilTheNextKey) {
     EXPECT_EQ(form.Widget->shownMessage(), QString());
 }
 
+TEST_F(QtWidget, ForbiddenCharactersAreExplainedInEnglishToo) {
+    form.Cancel = true;
+    form.Grid().SetLanguage(qglgEnglish);
+    GoTo(1);
+    form.Type(QStringLiteral("xyz"));
+    form.Grid().RowCell(1)->SetCharlist("abc"); // before, the keys would have been refused
+    form.Enter();
+    EXPECT_EQ(form.Events, Names{"refused 20011 name"});
+    EXPECT_EQ(form.Widget->shownMessage(), QStringLiteral("Invalid input format"));
+}
+
 TEST_F(QtWidget, MessageStaysWhenTheRowChangesAndSpeaksTheFormsLanguage) {
     form.Grid().SetLanguage(qglgEnglish);
     GoTo(2);

@@ -1,5 +1,6 @@
 #include "quillgrid/hosts/qt/RefusalMessages.h"
 
+#include "quillgrid/cells/LanguageTexts.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/ErrorBubble.h"
 
@@ -18,12 +19,18 @@ bool SpeaksGerman(LanguageConstants language) {
     return language == qglgDefault || language == qglgGerman;
 }
 
+std::string MessageOf(ValidationErrConstants code, LanguageConstants language) {
+    if (SpeaksGerman(language)) return ErrorText(code);
+    if (code == qgerrMask) return "Invalid input format"; // the one message that is stored in German alone
+    return ErrorText(code + EnglishMessages);
+}
+
 } // namespace
 
 QString RefusalMessages::TextFor(const Cell& cell, ValidationErrConstants code) const {
     const QString own = Source ? Source(cell, code) : QString();
     if (!own.isEmpty()) return own;
-    return ToQString(grid_.ErrorMessage(SpeaksGerman(grid_.Language()) ? code : code + EnglishMessages));
+    return ToQString(MessageOf(code, grid_.Language()));
 }
 
 void RefusalMessages::Refused(const Cell& cell, ValidationErrConstants code) {
