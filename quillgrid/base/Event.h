@@ -55,11 +55,11 @@ public:
     [[nodiscard]] Connection Connect(Listener listener) {
         auto slot = std::make_shared<Slot>(Slot{std::move(listener)});
         slots_->push_back(slot);
-        return Connection([slots = std::weak_ptr<Slots>(slots_), slot = std::weak_ptr<Slot>(slot)] {
+        return Connection([all = std::weak_ptr<Slots>(slots_), slot = std::weak_ptr<Slot>(slot)] {
             const auto held = slot.lock();
             if (!held) return;
             held->Active = false;
-            if (const auto list = slots.lock()) std::erase(*list, held);
+            if (const auto list = all.lock()) std::erase(*list, held);
         });
     }
     /// Listens for as long as the event lives.
