@@ -62,6 +62,7 @@ std::vector<FontEntry> InstalledFonts(const Theme& desktop) {
     const auto sortedScreen = Sorted(screen);
     const auto sortedPrinter = Sorted(printer);
     std::vector<FontEntry> fonts;
+    fonts.reserve(screen.size() + printer.size());
     for (const auto& name : screen)
         fonts.push_back({name, Has(sortedPrinter, name) ? CommonFont : ScreenFont});
     for (const auto& name : printer) {

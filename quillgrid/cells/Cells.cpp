@@ -7,7 +7,7 @@
 namespace quillgrid {
 
 Cells::Pointer Cells::Add(CellArguments arguments) {
-    const auto cell = NewCell(arguments);
+    auto cell = NewCell(arguments);
     Insert(cell, arguments);
     DefineOrTakeOut(cell, arguments);
     TellOrderChanged();
@@ -15,7 +15,7 @@ Cells::Pointer Cells::Add(CellArguments arguments) {
 }
 
 Cells::Pointer Cells::NewCell(const CellArguments& arguments) const {
-    const auto cell = std::make_shared<Cell>(link_);
+    auto cell = std::make_shared<Cell>(link_);
     const auto defaults = link_->Owner ? link_->Owner->Defaults() : CellDefaults{};
     CellAccess::SetKey(*cell, arguments.Key);
     CellAccess::Inherit(*cell, defaults.CellForeColor, defaults.FontBold, defaults.FontItalic);

@@ -8,7 +8,7 @@
 namespace quillgrid {
 
 Groups::Pointer Groups::Add(GroupArguments arguments) {
-    const auto group = std::make_shared<Group>();
+    auto group = std::make_shared<Group>();
     group->key_ =
         arguments.Key.empty() ? "Group" + std::to_string(list_.Count() + 1) : std::move(arguments.Key);
     group->caption_ = arguments.Caption.empty() ? group->key_ : std::move(arguments.Caption);

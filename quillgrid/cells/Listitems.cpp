@@ -14,7 +14,7 @@ constexpr std::size_t LongestSearchText = 20;
 } // namespace
 
 Listitems::Pointer Listitems::Add(ListitemArguments arguments) {
-    const auto entry = std::make_shared<quillgrid::Listitem>();
+    auto entry = std::make_shared<quillgrid::Listitem>();
     entry->itemData_ = arguments.ItemData ? std::move(*arguments.ItemData) : Variant(arguments.Text);
     entry->text_ = std::move(arguments.Text);
     entry->indent_ = arguments.Indent;

@@ -6,7 +6,7 @@ namespace quillgrid {
 
 PersistentCells::Pointer PersistentCells::Add() {
     const auto number = std::to_string(list_.Count() + 1);
-    const auto record = std::make_shared<PersistentCell>();
+    auto record = std::make_shared<PersistentCell>();
     record->SetCollectionKey("Cell" + number);
     record->SetIndex(Count() + 1);
     record->SetCaption("Label" + number);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* Digits = "0123456789";
 
-std::string WithMinus(const Cell& cell, const Locale& locale, std::string filter) {
+std::string WithMinus(const Cell& cell, const Locale& locale, const std::string& filter) {
     const auto least = ToDouble(cell.Min(), locale);
     return least && *least < 0 ? "-" + filter : filter;
 }

@@ -10,6 +10,7 @@ namespace quillgrid {
 namespace {
 
 // The calls hold the core by value: a handler may destroy the control before they return.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 using Core = std::shared_ptr<GridCore>;
 
 template <typename Field>
@@ -23,6 +24,7 @@ void StoreForOrder(const Core core, Field GridSettings::*field, Field value) {
     core->OrderChanged();
     Store(core, field, value);
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 /// `text` with the characters of `needed` that it lacks put in front, one after the other.
 std::string Completed(std::string_view text, std::u32string_view needed) {

@@ -102,11 +102,11 @@ bool HeadlessHost::Press(std::int32_t keyCode, std::int32_t shift) {
     return used;
 }
 
-RecordingCanvas HeadlessHost::Paint() {
+RecordingCanvas HeadlessHost::Paint() const {
     return Paint({0, 0, Surface.Inner.Width, Surface.Inner.Height});
 }
 
-RecordingCanvas HeadlessHost::Paint(const Rect& area) {
+RecordingCanvas HeadlessHost::Paint(const Rect& area) const {
     RecordingCanvas canvas;
     Grid->Paint(canvas, area);
     return canvas;

@@ -50,8 +50,8 @@ public:
     /// it.
     bool Press(std::int32_t keyCode, std::int32_t shift = 0);
     /// Everything, or one area, painted.
-    RecordingCanvas Paint();
-    RecordingCanvas Paint(const Rect& area);
+    RecordingCanvas Paint() const;
+    RecordingCanvas Paint(const Rect& area) const;
     void ResizeTo(Size size);
 
 private:
