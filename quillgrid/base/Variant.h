@@ -42,6 +42,13 @@ public:
     Variant(const char* text) : value_(std::string(text)) {}
     Variant(ObjectReference object) : value_(std::move(object)) {}
 
+    /// Holds one of the types from now on; several times cheaper than assigning another variant, which must
+    /// ask both for their types.
+    template <typename T>
+    void Set(T value) {
+        value_ = std::move(value);
+    }
+
     static Variant Null() { return Variant(NullValue{}); }
 
     Type Kind() const { return static_cast<Type>(value_.index()); }

@@ -60,28 +60,28 @@ ValidationErrConstants TakeText(Variant& value, const InputRules& rules, const L
 ValidationErrConstants TakeLong(Variant& value, const InputRules& rules, const InputContext& context) {
     const auto number = LongFromInput(value, context);
     if (!number) return qgErrBadNumber;
-    value = LimitLong(*number, rules, context.UserLocale);
+    value.Set(LimitLong(*number, rules, context.UserLocale));
     return qgErrNone;
 }
 
 ValidationErrConstants TakeCurrency(Variant& value, const InputRules& rules, const InputContext& context) {
     const auto amount = CurrencyFromInput(value, context);
     if (!amount) return qgErrBadNumber;
-    value = LimitCurrency(*amount, rules, context.UserLocale);
+    value.Set(LimitCurrency(*amount, rules, context.UserLocale));
     return qgErrNone;
 }
 
 ValidationErrConstants TakeDouble(Variant& value, const InputRules& rules, const InputContext& context) {
     const auto number = DoubleFromInput(value, context);
     if (!number) return qgErrBadNumber;
-    value = LimitDouble(*number, rules, context.UserLocale);
+    value.Set(LimitDouble(*number, rules, context.UserLocale));
     return qgErrNone;
 }
 
 ValidationErrConstants TakeDate(Variant& value, const InputRules& rules, const InputContext& context) {
     const auto day = DayFromInput(value, context);
     if (!day) return qgerrBadDate;
-    value = DateTime{LimitDay(*day, rules, context.UserLocale), 0};
+    value.Set(DateTime{LimitDay(*day, rules, context.UserLocale), 0});
     return qgErrNone;
 }
 
@@ -90,7 +90,7 @@ ValidationErrConstants TakeTime(Variant& value, const InputRules& rules, const I
     if (!second) return qgerrBadTime;
     const auto limited = LimitSecond(*second, rules, context.UserLocale);
     if (!limited) return qgerrTimeTooEarly;
-    value = DateTime{0, *limited};
+    value.Set(DateTime{0, *limited});
     return qgErrNone;
 }
 
