@@ -32,9 +32,12 @@ def xdotool(*arguments):
 
 
 class Desktop:
-    """The window manager: without one no window is ever active."""
+    """A German keyboard, and a window manager: without one no window is ever active."""
 
     def __enter__(self):
+        # What the keyboard has no key for, xdotool puts on a spare one for a moment: a program that looks up the
+        # key too late gets nothing.
+        subprocess.run(["setxkbmap", "de"], check=True)
         self.folder = tempfile.TemporaryDirectory()
         # A window that opens while the manager still starts may never be told that it is active.
         ready = os.path.join(self.folder.name, "ready")
