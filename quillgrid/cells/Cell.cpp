@@ -31,6 +31,7 @@ void Cell::SetBinding(std::string DataBinding::*field, std::string name) {
 }
 
 class Listitems& Cell::Listitems() {
+    Edit(); // whoever asks for them in this way may change them
     auto& items = WritableExtras().Items;
     if (!items) items = std::make_unique<class Listitems>();
     return *items;
@@ -42,7 +43,7 @@ const class Listitems& Cell::Listitems() const {
 }
 
 void Cell::SetFormat(std::string format) {
-    state_.Format = std::move(format);
+    Edit().Format = std::move(format);
     state_.StaleText = true;
 }
 
@@ -52,36 +53,37 @@ void Cell::SetUnit(std::string unit) {
 }
 
 void Cell::SetValidationRule(ValidationRuleConstants rule) {
-    if (std::exchange(state_.Rule, rule) != rule) state_.StaleText = true;
+    if (std::exchange(Edit().Rule, rule) != rule) state_.StaleText = true;
 }
 
 void Cell::SetStyle(CellStyleConstants style) {
-    if (std::exchange(state_.Style, style) != style) state_.StaleText = true;
+    if (std::exchange(Edit().Style, style) != style) state_.StaleText = true;
 }
 
 void Cell::SetForeColor(Colour colour) {
-    if (std::exchange(state_.ForeColor, colour) != colour) state_.Repaint = true;
+    if (std::exchange(Edit().ForeColor, colour) != colour) state_.Repaint = true;
 }
 
 void Cell::SetFontBold(bool bold) {
     if (state_.FontBold != bold) state_.Repaint = true;
-    state_.FontBold = bold;
+    Edit().FontBold = bold;
 }
 
 void Cell::SetFontItalic(bool italic) {
     if (state_.FontItalic != italic) state_.Repaint = true;
-    state_.FontItalic = italic;
+    Edit().FontItalic = italic;
 }
 
 void Cell::SetGroup(std::string key) {
     if (EqualIgnoreCase(key, state_.Group)) return;
-    state_.Group = std::move(key);
+    Edit().Group = std::move(key);
     if (auto* owner = Owner()) owner->OrderChanged();
 }
 
 void Cell::Define(DefineArguments arguments) {
     const auto alive = weak_from_this().lock();
     const SilentScope silent(link_);
+    Edit();
     try {
         CellDefinition(*this).Apply(std::move(arguments));
     } catch (...) {
@@ -129,7 +131,7 @@ void Cell::Clear() {
 
 void Cell::Undo() {
     const auto alive = weak_from_this().lock();
-    SetValue(state_.UndoValue ? *state_.UndoValue : state_.Value);
+    AssignValue(state_.UndoValue ? *state_.UndoValue : state_.Value);
     state_.ErrorCode = qgErrNone;
     state_.Changed = false;
     if (auto* owner = Owner()) owner->ValueUndone(*this);
@@ -142,6 +144,15 @@ void Cell::Refresh() {
 
 void Cell::SetFocus() {
     if (auto* owner = Owner()) owner->FocusCell(*this);
+}
+
+std::shared_ptr<class Properties> Cell::Properties() const {
+    auto* owner = Owner();
+    return owner ? owner->CellSheet() : nullptr;
+}
+
+void Cell::DefineFromDataDictionary(const Record& record) {
+    if (auto* owner = Owner()) owner->DefineCurrentCell(record);
 }
 
 } // namespace quillgrid

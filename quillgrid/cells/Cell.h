@@ -17,6 +17,8 @@
 
 namespace quillgrid {
 
+class Record;
+
 struct DefineArguments {
     std::optional<Variant> NewCaption{}; ///< the present one when not given
     std::optional<Variant> NewValue{};   ///< the stored one when not given
@@ -55,7 +57,7 @@ public:
     // Value and text
 
     const std::string& Caption() const { return state_.Label.Caption(); }
-    void SetCaption(std::string caption) { state_.Label.SetCaption(std::move(caption)); }
+    void SetCaption(std::string caption) { Edit().Label.SetCaption(std::move(caption)); }
     /// The value in the type of the validation rule; the data of the chosen entry for list and boolean cells;
     /// Null where there is no value or none of that type.
     Variant Value() const;
@@ -83,7 +85,7 @@ public:
     void SetValidationRule(ValidationRuleConstants rule);
     /// Characters; limits free text only. Negative counts as 0.
     std::int32_t MaxLength() const { return state_.MaxLength; }
-    void SetMaxLength(std::int32_t characters) { state_.MaxLength = characters; }
+    void SetMaxLength(std::int32_t characters) { Edit().MaxLength = characters; }
     const Variant& Min() const { return Extras().Min; }
     void SetMin(Variant bound) {
         SetRare(&CellExtras::Min, bound.IsEmpty() ? Variant::Null() : std::move(bound));
@@ -93,25 +95,34 @@ public:
     const Variant& Default() const { return Extras().Default; }
     void SetDefault(Variant value) { SetRare(&CellExtras::Default, std::move(value)); }
     bool AllowEmpty() const { return state_.AllowEmpty; }
-    void SetAllowEmpty(bool allow) { state_.AllowEmpty = allow; }
+    void SetAllowEmpty(bool allow) { Edit().AllowEmpty = allow; }
     /// The characters that input may have, in any case; empty allows all.
     const std::string& Charlist() const { return Extras().Charlist; }
     void SetCharlist(std::string characters) { SetRare(&CellExtras::Charlist, std::move(characters)); }
     CharCaseConstants CharCase() const { return state_.CharCase; }
-    void SetCharCase(CharCaseConstants charCase) { state_.CharCase = charCase; }
+    void SetCharCase(CharCaseConstants charCase) { Edit().CharCase = charCase; }
     bool CausesValidation() const { return state_.CausesValidation; }
-    void SetCausesValidation(bool validate) { state_.CausesValidation = validate; }
+    void SetCausesValidation(bool validate) { Edit().CausesValidation = validate; }
     /// Code of the last failed validation, 0 when there is none.
     ValidationErrConstants ErrorCode() const { return state_.ErrorCode; }
     /// Step of the spin button.
     Currency Increment() const { return Extras().Increment; }
     void SetIncrement(Currency step) { SetRare(&CellExtras::Increment, step); }
     bool AllowHoliday() const { return allowHoliday_; }
-    void SetAllowHoliday(bool allow) { allowHoliday_ = allow; }
+    void SetAllowHoliday(bool allow) {
+        Edit();
+        allowHoliday_ = allow;
+    }
     bool AllowSaturday() const { return allowSaturday_; }
-    void SetAllowSaturday(bool allow) { allowSaturday_ = allow; }
+    void SetAllowSaturday(bool allow) {
+        Edit();
+        allowSaturday_ = allow;
+    }
     bool AllowSunday() const { return allowSunday_; }
-    void SetAllowSunday(bool allow) { allowSunday_ = allow; }
+    void SetAllowSunday(bool allow) {
+        Edit();
+        allowSunday_ = allow;
+    }
 
     // List
 
@@ -132,9 +143,9 @@ public:
     CellStyleConstants Style() const { return state_.Style; }
     void SetStyle(CellStyleConstants style);
     AlignmentConstants Alignment() const { return state_.Alignment; }
-    void SetAlignment(AlignmentConstants alignment) { state_.Alignment = alignment; }
+    void SetAlignment(AlignmentConstants alignment) { Edit().Alignment = alignment; }
     ButtonStyleConstants Button() const { return state_.Button; }
-    void SetButton(ButtonStyleConstants button) { state_.Button = button; }
+    void SetButton(ButtonStyleConstants button) { Edit().Button = button; }
     /// Key of an image in the control's image list; Null or an unknown key shows none.
     const Variant& ListImage() const { return Extras().ListImage; }
     void SetListImage(Variant key) { SetRare(&CellExtras::ListImage, std::move(key)); }
@@ -150,7 +161,7 @@ public:
     Colour FillColor() const { return Extras().FillColor; }
     void SetFillColor(Colour colour) { SetRare(&CellExtras::FillColor, colour); }
     bool ShowPercent() const { return state_.ShowPercent; }
-    void SetShowPercent(bool show) { state_.ShowPercent = show; }
+    void SetShowPercent(bool show) { Edit().ShowPercent = show; }
     /// Width of the value area in pixels, from layout.
     std::int32_t Width() const { return state_.Areas[0].Width(); }
 
@@ -163,13 +174,13 @@ public:
     /// Another key (in any case) makes the control regroup.
     void SetGroup(std::string key);
     bool Visible() const { return state_.Visible; }
-    void SetVisible(bool visible) { state_.Visible = visible; }
+    void SetVisible(bool visible) { Edit().Visible = visible; }
     bool Enabled() const { return state_.Enabled; }
-    void SetEnabled(bool enabled) { state_.Enabled = enabled; }
+    void SetEnabled(bool enabled) { Edit().Enabled = enabled; }
     bool DataVisible() const { return state_.DataVisible; }
-    void SetDataVisible(bool visible) { state_.DataVisible = visible; }
+    void SetDataVisible(bool visible) { Edit().DataVisible = visible; }
     bool Locked() const { return state_.Locked; }
-    void SetLocked(bool locked) { state_.Locked = locked; }
+    void SetLocked(bool locked) { Edit().Locked = locked; }
     /// The least user level that sees the cell, sees its data, may change it.
     std::int32_t UserlevelVisible() const { return Extras().UserlevelVisible; }
     void SetUserlevelVisible(std::int32_t level) { SetRare(&CellExtras::UserlevelVisible, level); }
@@ -217,6 +228,13 @@ public:
     /// Makes this the current cell.
     void SetFocus();
 
+    /// The property sheet that all cells of a control share: its items act on the control's current cell,
+    /// whichever cell they were asked of. Null for a cell without a control.
+    std::shared_ptr<class Properties> Properties() const;
+    /// Sets the properties of the control's current cell from the fields of the same names; fields that are
+    /// missing or do not fit are passed over. The control's Silent is false afterwards.
+    void DefineFromDataDictionary(const Record& record);
+
 private:
     friend class CellAccess;
     friend class CellDefinition;
@@ -225,11 +243,19 @@ private:
     const Locale& UserLocale() const;
     const CellExtras& Extras() const { return extras_ ? *extras_ : CellExtras::Defaults(); }
     CellExtras& WritableExtras();
+    /// The state, about to be changed by the host: a sample cell becomes one of its own.
+    CellState& Edit() {
+        state_.Sample = false;
+        return state_;
+    }
+    /// As `SetValue`, by the control itself.
+    void AssignValue(Variant value);
     const DataBinding& Binding() const;
     void SetBinding(std::string DataBinding::*field, std::string name);
     /// Defaults take no memory.
     template <typename Field>
     void SetRare(Field CellExtras::*field, Field value) {
+        Edit();
         if (!extras_ && value == CellExtras::Defaults().*field) return;
         WritableExtras().*field = std::move(value);
     }

@@ -62,7 +62,7 @@ void CellAccess::LoadValue(Cell& cell, Variant value) {
     if (value.IsNull()) {
         Empty(cell);
     } else {
-        cell.SetValue(std::move(value));
+        cell.AssignValue(std::move(value));
     }
 }
 

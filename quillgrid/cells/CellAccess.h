@@ -46,6 +46,9 @@ public:
     /// Colour, bold or italic changed since the flag was last taken back.
     static bool RepaintPending(const Cell& cell) { return cell.state_.Repaint; }
     static void SetRepaintPending(Cell& cell, bool pending) { cell.state_.Repaint = pending; }
+    /// Whether the control made the cell to fill an empty form and nobody has touched it since.
+    static bool IsSample(const Cell& cell) { return cell.state_.Sample; }
+    static void MarkSample(Cell& cell) { cell.state_.Sample = true; }
     /// Whether the text colour is another one than the control gave when it made the cell.
     static bool HasOwnForeColor(const Cell& cell) {
         return cell.state_.ForeColor != cell.state_.InheritedForeColor;

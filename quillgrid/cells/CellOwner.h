@@ -5,6 +5,7 @@
 #include "quillgrid/cells/InputConversion.h"
 #include "quillgrid/locale/Locale.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,8 @@ class Cell;
 class Clock;
 class CurrencyConverter;
 class ImageSource;
+class Properties;
+class Record;
 class Theme;
 
 /// What a new cell takes over from its control.
@@ -52,6 +55,8 @@ public:
     /// Makes a cell the one being worked on (null: none) and returns the one before.
     virtual Cell* ExchangeCurrentCell(Cell* cell) = 0;
 
+    /// A cell is about to be added: sample cells make room.
+    virtual void AddingCell() = 0;
     /// The order or the grouping of the rows must be rebuilt.
     virtual void OrderChanged() = 0;
     /// A cell left the control; whoever still shows it lets go.
@@ -63,6 +68,11 @@ public:
     /// `Undo` ran: the edit box of the current cell shows the value again.
     virtual void ValueUndone(Cell& cell) = 0;
     virtual void FocusCell(Cell& cell) = 0;
+
+    /// The property sheet of the current cell.
+    virtual std::shared_ptr<quillgrid::Properties> CellSheet() = 0;
+    /// Sets the properties of the current cell from the fields of a record.
+    virtual void DefineCurrentCell(const Record& record) = 0;
 };
 
 } // namespace quillgrid

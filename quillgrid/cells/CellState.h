@@ -49,6 +49,7 @@ struct CellState {
     bool Changed : 1 = false;
     bool Repaint : 1 = false;   ///< colour or font changed since the row was painted
     bool StaleText : 1 = false; ///< something that the text depends on changed since it was made
+    bool Sample : 1 = false;    ///< made by the control to fill an empty form, and not touched since
 };
 
 } // namespace quillgrid

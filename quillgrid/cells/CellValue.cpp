@@ -65,6 +65,11 @@ Variant Cell::Value() const {
 }
 
 void Cell::SetValue(Variant value) {
+    Edit();
+    AssignValue(std::move(value));
+}
+
+void Cell::AssignValue(Variant value) {
     const auto alive = weak_from_this().lock();
     if (IsList() && !IsBoolean() && std::as_const(*this).Listitems().Count() == 0) {
         SetRare(&CellExtras::ItemData, value); // entries may come later and are then searched for it
@@ -152,7 +157,7 @@ void Cell::SetListIndex(std::int32_t index) {
     if (IsList()) {
         SetValue(entry->ItemData());
     } else {
-        state_.ListIndex = index;
+        Edit().ListIndex = index;
     }
 }
 

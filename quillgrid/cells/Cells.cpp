@@ -7,6 +7,7 @@
 namespace quillgrid {
 
 Cells::Pointer Cells::Add(CellArguments arguments) {
+    if (link_->Owner) link_->Owner->AddingCell();
     auto cell = NewCell(arguments);
     Insert(cell, arguments);
     DefineOrTakeOut(cell, arguments);

@@ -11,6 +11,8 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
     : ports_(ports),
       Cells(this),
       Groups(this, Cells),
+      ImageList(ports_.Images),
+      Samples(State, Cells, Groups, Columns),
       Repaint(State, ports_.Window),
       Events(State, ports_.Window, events),
       View(State, ports_.Bar, Repaint),
@@ -19,28 +21,31 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       Selector(State, Commit, Seat, View, Events, Repaint),
       Navigator(State, Commit, Selector, View, Seat, Events),
       Stepper(State, Commit, Seat, Events, ports_.UserLocale),
-      Refresher(State, ports_, Cells, Groups, Commit, Seat, View, Repaint),
+      Refresher(State, ports_, Cells, Groups, Samples, Commit, Seat, View, Repaint),
+      Setter(State, ports_, Cells, Samples, Refresher, Selector, View),
+      Sheets(State, Setter, ports_.UserLocale),
+      Lifecycle(State, ports_, Samples, Refresher, Setter),
       Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Events, ports_.UserLocale),
       Mouse(State, Selector, Editor, Events, ports_.Images),
       Records(State, Cells, Seat, Repaint),
       Painter(State, ports_.Images) {
-    State.UserMode = ports_.UserMode;
-    State.Settings.Font = ports_.AmbientFont;
-    State.Settings.CellFont = ports_.AmbientFont;
+    State.UserMode = ports_.Container.UserMode();
 }
 
 void GridCore::Terminate() {
     State.Terminated = true;
     Events.Terminate();
-    Cells.SetOwner(nullptr);
-    Groups.SetOwner(nullptr);
+    ImageList.SetSource(nullptr);
     State.Working = nullptr;
     State.Current.reset();
     State.Rows.Clear();
-}
-
-void GridCore::SettingChanged() {
-    if (!State.UserMode) Refresher.Refresh();
+    Cells.SetOwner(nullptr);
+    Cells.Clear();
+    Sheets.Terminate();
+    Groups.SetOwner(nullptr);
+    Groups.Clear();
+    Columns.Clear();
+    Samples.Clear();
 }
 
 void GridCore::FocusGained() {
@@ -75,11 +80,6 @@ void GridCore::UndoAll() {
         cell->Undo();
 }
 
-void GridCore::RefillLanguage() {
-    for (const auto& cell : Cells)
-        RefillLanguageTexts(*cell);
-}
-
 InputSeparators GridCore::Separators() const {
     return {State.Settings.NumSeparators, State.Settings.DateSeparators, State.Settings.TimeSeparators};
 }
@@ -91,6 +91,11 @@ CellDefaults GridCore::Defaults() const {
 
 void GridCore::SetBusyPointer(bool busy) {
     if (!State.Terminated) ports_.Window.SetPointer(busy ? MousePointer::Busy : MousePointer::Default);
+}
+
+void GridCore::OrderChanged() {
+    State.ResortNeeded = true;
+    if (State.UserMode) State.Settings.CellCount = Cells.Count();
 }
 
 void GridCore::CellRemoved(Cell& cell) {

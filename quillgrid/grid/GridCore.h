@@ -2,20 +2,26 @@
 
 #include "quillgrid/cells/CellOwner.h"
 #include "quillgrid/cells/Cells.h"
+#include "quillgrid/cells/Columns.h"
 #include "quillgrid/cells/Groups.h"
+#include "quillgrid/cells/ImageList.h"
 #include "quillgrid/grid/CellCommit.h"
 #include "quillgrid/grid/CellEditor.h"
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridEvents.h"
+#include "quillgrid/grid/GridLifecycle.h"
 #include "quillgrid/grid/GridPainter.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/MouseController.h"
 #include "quillgrid/grid/Navigator.h"
+#include "quillgrid/grid/PropertySetter.h"
+#include "quillgrid/grid/PropertySheets.h"
 #include "quillgrid/grid/RecordBinding.h"
 #include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/RowSelector.h"
+#include "quillgrid/grid/SampleCells.h"
 #include "quillgrid/grid/ValueStepper.h"
 #include "quillgrid/grid/Viewport.h"
 
@@ -33,23 +39,25 @@ public:
 
     /// The control goes: no event is raised and no port is called any more, and every cell loses its owner.
     void Terminate();
-    /// A setter has stored: design time shows it at once, run time at the next Refresh.
-    void SettingChanged();
     void FocusGained();
     void FocusLost();
     /// Undo values become the present ones, or the other way round.
     void AcceptAll();
     void UndoAll();
-    /// Fills the language-dependent lists anew.
-    void RefillLanguage();
+    std::shared_ptr<Properties> GridSheet() { return Sheets.GridSheet(weak_from_this()); }
 
 private:
     const GridPorts ports_;
 
 public:
+    const GridPorts& Ports() const { return ports_; }
+
     GridState State;
     class Cells Cells;
     class Groups Groups;
+    class Columns Columns;
+    class ImageList ImageList;
+    SampleCells Samples;
     RepaintRequests Repaint;
     GridEvents Events;
     Viewport View;
@@ -59,6 +67,9 @@ public:
     class Navigator Navigator;
     ValueStepper Stepper;
     GridRefresh Refresher;
+    PropertySetter Setter;
+    PropertySheets Sheets;
+    GridLifecycle Lifecycle;
     CellEditor Editor;
     MouseController Mouse;
     RecordBinding Records;
@@ -79,12 +90,17 @@ public:
     std::string CurrentGroup() const override { return State.CurrentGroup; }
     void SetCurrentGroup(std::string_view key) override { State.CurrentGroup = key; }
     Cell* ExchangeCurrentCell(Cell* cell) override { return std::exchange(State.Working, cell); }
-    void OrderChanged() override { State.ResortNeeded = true; }
+    void AddingCell() override { Samples.MakeRoom(); }
+    void OrderChanged() override;
     void CellRemoved(Cell& cell) override;
     void CellsCleared() override;
     void RepaintRow(Cell& cell) override;
     void ValueUndone(Cell& cell) override;
     void FocusCell(Cell& cell) override;
+    std::shared_ptr<Properties> CellSheet() override { return Sheets.CellSheet(weak_from_this()); }
+    void DefineCurrentCell(const Record& record) override {
+        Sheets.DefineCurrentCell(record, weak_from_this());
+    }
 };
 
 } // namespace quillgrid

@@ -48,7 +48,7 @@ LayoutMeasures Limited(LayoutMeasures measures) {
 
 void SetStyle(GridLayout& layout, const GridSettings& settings) {
     layout.PropertyList = settings.Style != qgstDefault;
-    layout.LabelsRight = settings.Alignment == qgalRightJustify;
+    layout.LabelsRight = settings.Alignment >= qgalRightJustify;
     layout.TextInset = layout.PropertyList ? 1 : 2;
     layout.StyleMargin = layout.PropertyList ? Margins{} : Margins{8, 8, 0, 8};
     layout.OuterEdge = EdgeOf(settings.BevelOuter);

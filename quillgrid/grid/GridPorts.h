@@ -6,6 +6,7 @@
 #include "quillgrid/platform/EditBox.h"
 #include "quillgrid/platform/ImageSource.h"
 #include "quillgrid/platform/ScrollBar.h"
+#include "quillgrid/platform/Site.h"
 #include "quillgrid/platform/Surface.h"
 #include "quillgrid/platform/TextMetrics.h"
 #include "quillgrid/platform/Theme.h"
@@ -17,14 +18,13 @@ struct GridPorts {
     Surface& Window;
     EditBox& Editor;
     ScrollBar& Bar;
+    Site& Container;
     const TextMetrics& Metrics;
     const Clock& Time;
     const Theme& Desktop;
     Locale UserLocale;
-    Font AmbientFont;
-    const ImageSource* Images = nullptr;
-    const CurrencyConverter* Currencies = nullptr;
-    bool UserMode = true; ///< false while a form designer shows the control
+    ImageSource* Images = nullptr;
+    CurrencyConverter* Currencies = nullptr;
 };
 
 } // namespace quillgrid

@@ -15,9 +15,10 @@ constexpr std::int32_t LeastScrollBarWidth = 14;
 } // namespace
 
 void GridRefresh::Refresh() {
-    if (state_.RefreshBusy || state_.Terminated) return;
+    if (state_.RefreshBusy || state_.Terminated || !state_.Ready) return;
     const FlagGuard busy(state_.RefreshBusy);
     state_.Silent = false;
+    LoadSamples();
     std::shared_ptr<Cell> kept;
     if (state_.ResortNeeded) {
         // What is being typed belongs to its own cell, wherever that stands afterwards.
@@ -29,6 +30,12 @@ void GridRefresh::Refresh() {
         CellAccess::RefreshStaleText(*cell);
     SetCurrent(kept);
     LayOut();
+}
+
+void GridRefresh::LoadSamples() {
+    state_.Settings.CellCount = cells_.Count();
+    // A form may have cells and yet no row, all hidden for one: those are nobody's to take away.
+    if (!state_.UserMode || cells_.Count() == 0) samples_.Load();
 }
 
 void GridRefresh::Sort() {

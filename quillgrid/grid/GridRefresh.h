@@ -8,6 +8,7 @@
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/RepaintRequests.h"
+#include "quillgrid/grid/SampleCells.h"
 #include "quillgrid/grid/Viewport.h"
 
 namespace quillgrid {
@@ -16,11 +17,13 @@ namespace quillgrid {
 class GridRefresh {
 public:
     GridRefresh(GridState& state, const GridPorts& ports, const Cells& cells, const Groups& groups,
-                CellCommit& commit, EditSeat& seat, Viewport& view, RepaintRequests& repaint)
+                SampleCells& samples, CellCommit& commit, EditSeat& seat, Viewport& view,
+                RepaintRequests& repaint)
         : state_(state),
           ports_(ports),
           cells_(cells),
           groups_(groups),
+          samples_(samples),
           widths_(ports.Metrics),
           commit_(commit),
           seat_(seat),
@@ -33,6 +36,7 @@ public:
     void Resize();
 
 private:
+    void LoadSamples();
     void Sort();
     void SetCurrent(const std::shared_ptr<Cell>& kept);
     void LayOut();
@@ -43,6 +47,7 @@ private:
     const GridPorts& ports_;
     const Cells& cells_;
     const Groups& groups_;
+    SampleCells& samples_;
     CaptionWidths widths_;
     CellCommit& commit_;
     EditSeat& seat_;

@@ -27,6 +27,7 @@ struct GridState {
     bool UserMode = true;
     bool Silent = false;
     bool ResortNeeded = true;
+    bool Ready = false; ///< start-up has finished
     bool RefreshBusy = false;
     bool CommitBusy = false;
     bool LeavingFocus =
@@ -52,14 +53,17 @@ struct GridState {
 /// Sets a flag for as long as it lives, exceptions included.
 class FlagGuard {
 public:
-    explicit FlagGuard(bool& flag, bool value = true) : flag_(flag), before_(flag) { flag_ = value; }
-    ~FlagGuard() { flag_ = before_; }
+    explicit FlagGuard(bool& flag, bool value = true) : FlagGuard(flag, value, flag) {}
+    FlagGuard(bool& flag, bool value, bool afterwards) : flag_(flag), afterwards_(afterwards) {
+        flag_ = value;
+    }
+    ~FlagGuard() { flag_ = afterwards_; }
     FlagGuard(const FlagGuard&) = delete;
     FlagGuard& operator=(const FlagGuard&) = delete;
 
 private:
     bool& flag_;
-    bool before_;
+    bool afterwards_;
 };
 
 } // namespace quillgrid

@@ -36,6 +36,16 @@ struct PublishedEvents {
     Event<Cell&> LeaveFocus;
     /// The user pressed the image of a cell.
     Event<Cell&> ImageClick;
+    /// The host must offer values for the cell; the point is where the cell's value ends below, in units of
+    /// the container.
+    Event<Cell&, float, float> DropDown;
+    /// The control never raises these two.
+    Event<Cell&> Click;
+    Event<Cell&> DblClick;
+    /// The close box of the caption bar was clicked.
+    Event<> CloseBoxClick;
+    /// The menu box of the caption bar was clicked; its bottom left corner in units of the container.
+    Event<float, float> MenuClick;
 };
 
 } // namespace quillgrid

@@ -15,32 +15,43 @@ namespace {
 // The calls hold the core by value: a handler may destroy the control before they return.
 using Core = std::shared_ptr<GridCore>;
 
-/// Silent while the scope lasts, audible afterwards whatever happened in it.
-class SilentScope {
-public:
-    explicit SilentScope(GridState& state) : state_(state) { state_.Silent = true; }
-    ~SilentScope() { state_.Silent = false; }
-    SilentScope(const SilentScope&) = delete;
-    SilentScope& operator=(const SilentScope&) = delete;
-
-private:
-    GridState& state_;
-};
-
 } // namespace
 
-Quillgrid::Quillgrid(const GridPorts& ports) : core_(std::make_shared<GridCore>(ports, *this)) {
-    core_->Refresher.Refresh();
-}
+Quillgrid::Quillgrid(const GridPorts& ports) : core_(std::make_shared<GridCore>(ports, *this)) {}
 
 Quillgrid::~Quillgrid() {
-    core_->Terminate();
+    Terminate();
+}
+
+void Quillgrid::InitProperties() {
+    const Core core = core_;
+    core->Lifecycle.InitProperties();
+}
+
+void Quillgrid::ReadProperties(const PropertyBag& bag) {
+    const Core core = core_;
+    core->Lifecycle.ReadProperties(bag);
+}
+
+void Quillgrid::WriteProperties(PropertyBag& bag) const {
+    core_->Lifecycle.WriteProperties(bag);
+}
+
+void Quillgrid::Terminate() {
+    const Core core = core_;
+    core->Terminate();
+}
+
+void Quillgrid::AmbientChanged(std::string_view name) {
+    const Core core = core_;
+    core->Setter.AmbientChanged(name);
 }
 
 std::shared_ptr<class Cell> Quillgrid::Add(const CellArguments& arguments) {
-    const SilentScope silent(core_->State);
+    const Core core = core_;
+    const FlagGuard silent(core->State.Silent, true, false);
     try {
-        return core_->Cells.Add(arguments);
+        return core->Cells.Add(arguments);
     } catch (const std::exception&) {
         throw RaiseControlError(qgerrUserDefined, "Quillgrid.add method");
     }
@@ -56,6 +67,31 @@ class Cells& Quillgrid::Cells() {
 
 class Groups& Quillgrid::Groups() {
     return core_->Groups;
+}
+
+class ImageList& Quillgrid::ImageList() {
+    return core_->ImageList;
+}
+
+CurrencyConverter* Quillgrid::Euro() const {
+    return core_->Ports().Currencies;
+}
+
+class Properties& Quillgrid::Properties() {
+    return *core_->GridSheet();
+}
+
+Canvas& Quillgrid::hdc() {
+    return core_->Ports().Window.Drawing();
+}
+
+void Quillgrid::PaintPicture(const Picture& picture, const PicturePlacement& placement) {
+    hdc().PlacePicture(picture, placement);
+}
+
+void Quillgrid::About() {
+    const Core core = core_;
+    core->Ports().Container.ShowAbout({"Quillgrid", QUILLGRID_VERSION, "MIT"});
 }
 
 class Cell* Quillgrid::Cell() const {
@@ -78,13 +114,15 @@ void Quillgrid::Refresh() {
 }
 
 void Quillgrid::Update() {
-    core_->AcceptAll();
-    Refresh();
+    const Core core = core_;
+    core->AcceptAll();
+    core->Refresher.Refresh();
 }
 
 void Quillgrid::Undo() {
-    core_->UndoAll();
-    Refresh();
+    const Core core = core_;
+    core->UndoAll();
+    core->Refresher.Refresh();
 }
 
 bool Quillgrid::Changed() const {

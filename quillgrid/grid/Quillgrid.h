@@ -5,9 +5,12 @@
 #include "quillgrid/cells/Cell.h"
 #include "quillgrid/cells/Cells.h"
 #include "quillgrid/cells/Groups.h"
+#include "quillgrid/cells/ImageList.h"
+#include "quillgrid/cells/Properties.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/PublishedEvents.h"
 #include "quillgrid/platform/Canvas.h"
+#include "quillgrid/platform/PropertyBag.h"
 #include "quillgrid/platform/Record.h"
 
 #include <cstdint>
@@ -19,15 +22,29 @@ namespace quillgrid {
 
 class GridCore;
 
-/// The control: a vertical list of labelled cells, one of them edited at a time. Setters store; what they
-/// change is seen at the next Refresh (at once while a form designer shows the control).
+/// The control: a vertical list of labelled cells, one of them edited at a time.
 class Quillgrid : public PublishedEvents {
 public:
-    /// The ports must outlive the control.
+    /// Creates what the control owns. The ports must outlive it. One of InitProperties and ReadProperties
+    /// follows; nothing is laid out or painted before.
     explicit Quillgrid(const GridPorts& ports);
+    /// Terminates.
     ~Quillgrid();
     Quillgrid(const Quillgrid&) = delete;
     Quillgrid& operator=(const Quillgrid&) = delete;
+
+    /// Starts a new control: every property has its default, one sample cell is shown.
+    void InitProperties();
+    /// Starts a control with what a form saved: sample cells take the place of all cells. Always completes;
+    /// what the bag lacks, or holds in an unusable form, gets its default.
+    void ReadProperties(const PropertyBag& bag);
+    /// Saves every persisted property with its default.
+    void WriteProperties(PropertyBag& bag) const;
+    /// Releases everything; no event comes and no port is called from then on.
+    void Terminate();
+    /// A property of the container has changed. "ScaleUnits" (in any case) makes LabelWidth be reported and
+    /// the control be laid out.
+    void AmbientChanged(std::string_view name);
 
     /// Adds a cell; fails with 20099 (nothing added) when the key is taken. Silent is false afterwards.
     std::shared_ptr<class Cell> Add(const CellArguments& arguments);
@@ -35,6 +52,21 @@ public:
     void AddGroup(const GroupArguments& arguments);
     class Cells& Cells();
     class Groups& Groups();
+    /// The host's images.
+    class ImageList& ImageList();
+    /// The host's currencies, null when it has none.
+    CurrencyConverter* Euro() const;
+    /// The control's property sheet: `Properties().Item("Caption")->Value()`. Writing a value that cannot be
+    /// converted is error 20099 ("Property:Value Property Let").
+    class Properties& Properties();
+    /// The canvas of the control's window, for drawing at any moment; the control paints over it when that
+    /// part of it changes.
+    Canvas& hdc();
+    /// Draws a picture on the control's window, pixels from the top left; what is left out of the placement
+    /// is the drawing service's default.
+    void PaintPicture(const Picture& picture, const PicturePlacement& placement);
+    /// A small window with name, version and licence.
+    void About();
     /// The current cell, null when there is none.
     class Cell* Cell() const;
     /// Key of the group added or selected last.
@@ -62,45 +94,74 @@ public:
     /// Takes over what is being typed; false when a handler cancelled (the user must stay in the cell).
     bool CommitEdit();
 
+    // Properties. A setter stores, tells the container and, while a form designer shows the control,
+    // refreshes; at run time the change is seen after the next Refresh.
+
+    /// Labels.
     quillgrid::Font Font() const;
     void SetFont(const quillgrid::Font& font);
+    /// Values.
     quillgrid::Font CellFont() const;
     void SetCellFont(const quillgrid::Font& font);
+    /// The caption bar; bold in a new control.
+    quillgrid::Font CaptionFont() const;
+    void SetCaptionFont(const quillgrid::Font& font);
+    /// Text of the caption bar; a new control takes its name in the container.
+    std::string Caption() const;
+    void SetCaption(std::string_view text);
+    /// Tooltip where no cell has its own.
+    std::string TooltipText() const;
+    void SetTooltipText(std::string_view text);
+    /// Language of texts and messages; numbers beyond the five speak German. Setting it fills the lists of
+    /// cells that speak a language anew; their values stay.
     LanguageConstants Language() const;
-    /// Cells whose lists speak a language are refilled at once; their values stay.
-    void SetLanguage(LanguageConstants language);
+    void SetLanguage(LanguageConstants number);
+    /// Form or property list. Anything but 0 and 1 is error 20099 ("Quillgrid: Style Method"); another style
+    /// starts at the first row.
     StyleConstants Style() const;
-    /// Fails with 20099 for anything but 0 and 1.
-    void SetStyle(StyleConstants style);
-    AlignmentConstants Alignment() const;
+    void SetStyle(StyleConstants number);
+    /// Raised, flat, or flat until the mouse is over them: the cell buttons.
+    AppearanceConstants Appearance() const;
+    void SetAppearance(AppearanceConstants number);
     /// Labels on the left (0) or the right (1); limited to these.
-    void SetAlignment(AlignmentConstants alignment);
-    /// Pixels; 0 measures the captions.
+    AlignmentConstants Alignment() const;
+    void SetAlignment(AlignmentConstants number);
+    /// In units of the container; 0, and what is below, measures the captions.
     std::int32_t LabelWidth() const;
-    /// A negative width counts as 0.
-    void SetLabelWidth(std::int32_t width);
+    void SetLabelWidth(std::int32_t number);
+    /// How many cells there are as of the last Refresh. Setting it (1..1000) replaces all cells and groups by
+    /// as many sample cells, at run time too.
+    std::int32_t CellCount() const;
+    void SetCellCount(std::int32_t number);
+    /// What the access levels of the cells are compared with.
     std::int32_t UserLevel() const;
-    void SetUserLevel(std::int32_t level);
+    void SetUserLevel(std::int32_t number);
+    /// Enter goes to the next row.
     bool AllowEnter() const;
-    void SetAllowEnter(bool allow);
+    void SetAllowEnter(bool flag);
+    /// Moving past an end goes on at the other one; otherwise LeaveFocus is raised.
     bool AllowWrap() const;
-    void SetAllowWrap(bool allow);
+    void SetAllowWrap(bool flag);
+    /// Escape takes back what was typed.
     bool AllowEscape() const;
-    void SetAllowEscape(bool allow);
+    void SetAllowEscape(bool flag);
+    /// Characters that count as separators in typed numbers. A missing "," then a missing "." is put in
+    /// front.
     std::string NumSeparators() const;
-    /// A missing "," then a missing "." is put in front.
-    void SetNumSeparators(std::string_view separators);
-    std::string DateSeparators() const;
+    void SetNumSeparators(std::string_view text);
     /// A missing "/" then a missing "." is put in front.
-    void SetDateSeparators(std::string_view separators);
-    std::string TimeSeparators() const;
+    std::string DateSeparators() const;
+    void SetDateSeparators(std::string_view text);
     /// A missing ":" is put in front.
-    void SetTimeSeparators(std::string_view separators);
-    std::string PasswordChar() const;
+    std::string TimeSeparators() const;
+    void SetTimeSeparators(std::string_view text);
     /// The first character counts; an empty text means "*".
-    void SetPasswordChar(std::string_view character);
+    std::string PasswordChar() const;
+    void SetPasswordChar(std::string_view text);
+    /// The desktop's colours instead of the control's own.
     bool UseSystemColors() const;
-    void SetUseSystemColors(bool use);
+    void SetUseSystemColors(bool flag);
+    /// Also the colour of the control's window.
     Colour BackColor() const;
     void SetBackColor(Colour colour);
     Colour CellForeColor() const;
@@ -123,21 +184,64 @@ public:
     void SetLabelBackColorFocus(Colour colour);
     Colour Gridcolor() const;
     void SetGridcolor(Colour colour);
+    Colour GroupBoxColor() const;
+    void SetGroupBoxColor(Colour colour);
     /// Percent bars of cells that are defined from now on.
     Colour FillColor() const;
     void SetFillColor(Colour colour);
     BorderStyleConstants BorderStyle() const;
-    void SetBorderStyle(BorderStyleConstants style);
+    void SetBorderStyle(BorderStyleConstants number);
+    /// Pixels; limited to 0..999.
     std::int32_t BorderWidth() const;
-    /// Limited to 0..999.
-    void SetBorderWidth(std::int32_t width);
+    void SetBorderWidth(std::int32_t number);
+    /// Pixels; limited to 0..99.
     std::int32_t BevelWidth() const;
-    /// Limited to 0..99.
-    void SetBevelWidth(std::int32_t width);
+    void SetBevelWidth(std::int32_t number);
+    BevelInnerConstants BevelInner() const;
+    void SetBevelInner(BevelInnerConstants number);
+    BevelOuterConstants BevelOuter() const;
+    void SetBevelOuter(BevelOuterConstants number);
+    /// The caption bar.
+    bool ShowCaption() const;
+    void SetShowCaption(bool flag);
+    /// In the caption bar.
+    bool ShowCloseBox() const;
+    void SetShowCloseBox(bool flag);
+    /// In the caption bar.
+    bool ShowMenuBox() const;
+    void SetShowMenuBox(bool flag);
+    bool ShowGroupBox() const;
+    void SetShowGroupBox(bool flag);
+    /// A box below the rows with the tooltip of the current cell.
+    bool ShowTips() const;
+    void SetShowTips(bool flag);
+    /// Cells stand under the headings of their groups.
     bool Grouped() const;
-    void SetGrouped(bool grouped);
+    void SetGrouped(bool flag);
+    /// Rows in the order of their captions.
     bool Sorted() const;
-    void SetSorted(bool sorted);
+    void SetSorted(bool flag);
+    /// The country whose holidays the calendar knows.
+    AutoHolidayConstants AutoHolidays() const;
+    void SetAutoHolidays(AutoHolidayConstants number);
+    /// Kept for the host; each cell has flags of its own.
+    bool AllowHoliday() const;
+    void SetAllowHoliday(bool flag);
+    bool AllowSaturday() const;
+    void SetAllowSaturday(bool flag);
+    bool AllowSunday() const;
+    void SetAllowSunday(bool flag);
+    DayOfWeekConstants FirstDayOfWeek() const;
+    void SetFirstDayOfWeek(DayOfWeekConstants number);
+    FirstWeekOfYearConstants FirstWeekOfYear() const;
+    void SetFirstWeekOfYear(FirstWeekOfYearConstants number);
+    /// Holidays count as work days.
+    bool WorkHoliday() const;
+    void SetWorkHoliday(bool flag);
+    bool WorkSaturday() const;
+    void SetWorkSaturday(bool flag);
+    bool WorkSunday() const;
+    void SetWorkSunday(bool flag);
 
     // The host calls inward.
 

@@ -7,6 +7,7 @@
 #include "quillgrid/platform/ImageSource.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace quillgrid {
@@ -19,6 +20,21 @@ struct TextStyle {
     Colour Ink = ColourWindowText;
     AlignmentConstants Alignment = qgalLeftJustify;
     bool WordWrap = false; ///< one vertically centred line otherwise
+};
+
+/// How a picture is drawn; what is left out is the drawing service's affair: the whole picture in its own
+/// size, copied.
+struct PicturePlacement {
+    Point Position;
+    std::optional<std::int32_t> Width{};
+    std::optional<std::int32_t> Height{};
+    std::optional<std::int32_t> SourceLeft{};
+    std::optional<std::int32_t> SourceTop{};
+    std::optional<std::int32_t> SourceWidth{};
+    std::optional<std::int32_t> SourceHeight{};
+    /// A ternary raster operation: 0x00CC0020 copy, 0x008800C6 and, 0x00EE0086 or, 0x00660046 exclusive or,
+    /// 0x00330008 inverted copy.
+    std::optional<std::int32_t> Operation{};
 };
 
 /// What the control draws on. Logical pixels, origin at the top left of the control's surface; colours may be
@@ -35,6 +51,7 @@ public:
     /// Text never leaves `area`.
     virtual void Text(const Rect& area, std::string_view text, const TextStyle& style) = 0;
     virtual void Image(const Rect& area, const Picture& picture) = 0;
+    virtual void PlacePicture(const Picture& picture, const PicturePlacement& placement) = 0;
     virtual void SetClip(const Rect& area) = 0;
     virtual void ClearClip() = 0;
 };

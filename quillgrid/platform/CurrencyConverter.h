@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Constants.h"
+
 #include <string>
 #include <string_view>
 
@@ -12,6 +14,8 @@ public:
 
     /// The symbol to show for a currency code, empty when the code is unknown.
     virtual std::string Symbol(std::string_view currencyCode) const = 0;
+    /// The language of the names that it gives from now on.
+    virtual void SetLanguage(LanguageConstants language) = 0;
 };
 
 } // namespace quillgrid

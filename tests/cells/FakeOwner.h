@@ -61,6 +61,7 @@ public:
 class OneCurrency : public CurrencyConverter {
 public:
     std::string Symbol(std::string_view code) const override { return code == "EUR" ? "€" : ""; }
+    void SetLanguage(LanguageConstants) override {}
 };
 
 /// A control that writes down what its cells ask of it, and may misbehave when it paints.
@@ -109,6 +110,9 @@ public:
     }
     void ValueUndone(Cell& cell) override { Calls.push_back("undone " + cell.Caption()); }
     void FocusCell(Cell& cell) override { Calls.push_back("focus " + cell.Caption()); }
+    void AddingCell() override {}
+    std::shared_ptr<Properties> CellSheet() override { return nullptr; }
+    void DefineCurrentCell(const Record&) override {}
 
     std::vector<std::string> TakeCalls() { return std::exchange(Calls, {}); }
 };

@@ -1,5 +1,6 @@
 #include "quillgrid/grid/GridLayout.h"
 #include "quillgrid/grid/HitTest.h"
+#include "quillgrid/grid/SettingsStore.h"
 
 #include <gtest/gtest.h>
 
@@ -18,20 +19,20 @@ LayoutMeasures Measures(std::int32_t rows, Size surface = {300, 200}) {
 }
 
 TEST(Layout, PropertyListFillsTheFrameWithRowsWithoutGaps) {
-    EXPECT_EQ(Layout({}, Measures(5)).DumpText(), "inner bevel 4,4 - 296,196\n"
-                                                  "frame 8,8 - 292,192\n"
-                                                  "content 10,10 - 290,190\n"
-                                                  "labels 10 + 76\n"
-                                                  "values 86 + 203\n"
-                                                  "row height 18\n"
-                                                  "row pitch 18\n"
-                                                  "visible rows 10\n"
-                                                  "no scroll bar\n"
-                                                  "scroll maximum 5\n");
+    EXPECT_EQ(Layout(DefaultSettings(), Measures(5)).DumpText(), "inner bevel 4,4 - 296,196\n"
+                                                                 "frame 8,8 - 292,192\n"
+                                                                 "content 10,10 - 290,190\n"
+                                                                 "labels 10 + 76\n"
+                                                                 "values 86 + 203\n"
+                                                                 "row height 18\n"
+                                                                 "row pitch 18\n"
+                                                                 "visible rows 10\n"
+                                                                 "no scroll bar\n"
+                                                                 "scroll maximum 5\n");
 }
 
 TEST(Layout, DefaultStyleKeepsMarginsAndAGapBelowEachRow) {
-    GridSettings settings;
+    GridSettings settings = DefaultSettings();
     settings.Style = qgstDefault;
     EXPECT_EQ(Layout(settings, Measures(10)).DumpText(), "inner bevel 4,4 - 296,196\n"
                                                          "frame 8,8 - 292,192\n"
@@ -46,7 +47,7 @@ TEST(Layout, DefaultStyleKeepsMarginsAndAGapBelowEachRow) {
 }
 
 TEST(Layout, LabelsOnTheRightSwapTheColumns) {
-    GridSettings settings;
+    GridSettings settings = DefaultSettings();
     settings.Alignment = qgalRightJustify;
     settings.LabelWidth = 50;
     const GridLayout layout = Layout(settings, Measures(3));
@@ -58,7 +59,7 @@ TEST(Layout, LabelsOnTheRightSwapTheColumns) {
 TEST(Layout, EveryBevelMovesOnlyTheSidesThatItDrawsOn) {
     const auto content = [](BevelOuterConstants outer, BevelInnerConstants inner,
                             BorderStyleConstants border) {
-        GridSettings settings;
+        GridSettings settings = DefaultSettings();
         settings.BevelOuter = outer;
         settings.BevelInner = inner;
         settings.BorderStyle = border;
@@ -76,22 +77,22 @@ TEST(Layout, EveryBevelMovesOnlyTheSidesThatItDrawsOn) {
 }
 
 TEST(Layout, ScrollBarComesWithTheFirstRowThatDoesNotFitUnlessItIsTheOnlyOne) {
-    EXPECT_FALSE(Layout({}, Measures(10)).ScrollBarShown());
-    const GridLayout scrolled = Layout({}, Measures(11));
+    EXPECT_FALSE(Layout(DefaultSettings(), Measures(10)).ScrollBarShown());
+    const GridLayout scrolled = Layout(DefaultSettings(), Measures(11));
     EXPECT_EQ(scrolled.ScrollBar, (Rect{274, 10, 291, 190}));
     EXPECT_EQ(scrolled.ScrollMaximum, 2);
     EXPECT_EQ(scrolled.Values.Right(), 273);
-    const GridLayout one = Layout({}, Measures(1, {96, 36}));
+    const GridLayout one = Layout(DefaultSettings(), Measures(1, {96, 36}));
     EXPECT_EQ(one.VisibleRows, 0);
     EXPECT_FALSE(one.ScrollBarShown());
-    EXPECT_EQ(Layout({}, Measures(10, {300, 92})).ScrollMaximum, 7);
-    EXPECT_EQ(Layout({}, Measures(0)).ScrollMaximum, 1);
+    EXPECT_EQ(Layout(DefaultSettings(), Measures(10, {300, 92})).ScrollMaximum, 7);
+    EXPECT_EQ(Layout(DefaultSettings(), Measures(0)).ScrollMaximum, 1);
 }
 
 TEST(Layout, NoSettingAndNoSizeBreaksTheArithmetic) {
     for (const std::int32_t extreme :
          {std::numeric_limits<std::int32_t>::min(), -1, 0, 1, std::numeric_limits<std::int32_t>::max()}) {
-        GridSettings settings;
+        GridSettings settings = DefaultSettings();
         settings.BorderWidth = settings.BevelWidth = settings.LabelWidth = extreme;
         settings.Style = static_cast<StyleConstants>(extreme);
         const GridLayout layout = Layout(settings, {.Surface = {extreme, extreme},
@@ -108,7 +109,7 @@ TEST(Layout, NoSettingAndNoSizeBreaksTheArithmetic) {
 }
 
 TEST(HitTest, FindsRowAndSideAndNothingInGapsMarginsAndBelowTheLastRow) {
-    GridSettings settings;
+    GridSettings settings = DefaultSettings();
     settings.Style = qgstDefault;
     const GridLayout layout = Layout(settings, Measures(10));
     const auto hit = [&](std::int32_t x, std::int32_t y) { return HitTest(layout, 3, 5, {x, y}); };

@@ -1,4 +1,5 @@
 #include "quillgrid/grid/DisplayOrder.h"
+#include "quillgrid/grid/SettingsStore.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,7 @@ namespace {
 struct Form {
     Cells CellList;
     Groups GroupList{nullptr, CellList};
-    GridSettings Settings;
+    GridSettings Settings = DefaultSettings();
 
     Form() {
         Add("b", "");
@@ -74,7 +75,7 @@ TEST(DisplayOrder, LeavesOutWhatIsHiddenOrAboveTheLevelAndTheGroupOfAHiddenHeadi
 TEST(DisplayOrder, EqualCaptionsKeepTheirOrderAndDigitsBelongToTheKey) {
     Cells cells;
     Groups groups(nullptr, cells);
-    GridSettings settings;
+    GridSettings settings = DefaultSettings();
     settings.Sorted = true;
     for (const char* caption : {"Same", "A0", "same", "A", "SAME"})
         cells.Add({.Caption = Variant(caption)});

@@ -9,4 +9,9 @@ void FakeSurface::Invalidate(const Rect& area) {
     journal_.Note("repaint " + TextOf(area));
 }
 
+void FakeSurface::SetPointer(MousePointer pointer) {
+    Pointer = pointer;
+    if (pointer == MousePointer::Busy) ++BusyTimes;
+}
+
 } // namespace quillgrid::headless

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/hosts/headless/Journal.h"
+#include "quillgrid/hosts/headless/RecordingCanvas.h"
 #include "quillgrid/platform/Surface.h"
 
 #include <string>
@@ -20,13 +21,18 @@ public:
     std::vector<Rect> Invalid; ///< areas that wait to be painted
     std::string Tooltip;
     MousePointer Pointer = MousePointer::Default;
+    int BusyTimes = 0; ///< how often the pointer told of work
     int Beeps = 0;
+    Colour Background = 0;
+    RecordingCanvas Drawn; ///< by the host, on top of what the control painted
 
     Size InnerSize() const override { return Inner; }
     void Invalidate(const Rect& area) override;
     bool HasFocus() const override { return focus_ != FocusPlace::Outside; }
     void Focus() override { focus_ = FocusPlace::Surface; }
-    void SetPointer(MousePointer pointer) override { Pointer = pointer; }
+    void SetBackColour(Colour colour) override { Background = colour; }
+    Canvas& Drawing() override { return Drawn; }
+    void SetPointer(MousePointer pointer) override;
     void SetTooltip(std::string_view text) override { Tooltip = text; }
     void Beep() override { ++Beeps; }
 

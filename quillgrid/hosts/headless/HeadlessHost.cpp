@@ -20,19 +20,23 @@ std::int32_t KeyCodeOf(char32_t character) {
 
 } // namespace
 
-HeadlessHost::HeadlessHost(Size size, std::string_view locale, bool userMode) {
+HeadlessHost::HeadlessHost(Size size, std::string_view locale, bool userMode, const PropertyBag* bag) {
     Surface.Inner = size;
+    Site.Running = userMode;
     Grid = std::make_unique<Quillgrid>(GridPorts{.Window = Surface,
                                                  .Editor = Box,
                                                  .Bar = Bar,
+                                                 .Container = Site,
                                                  .Metrics = Metrics,
                                                  .Time = Clock,
                                                  .Desktop = Theme,
                                                  .UserLocale = BuiltInLocale(locale),
-                                                 .AmbientFont = Font{"Sans"},
-                                                 .Images = &Images,
-                                                 .Currencies = nullptr,
-                                                 .UserMode = userMode});
+                                                 .Images = &Images});
+    if (bag) {
+        Grid->ReadProperties(*bag);
+    } else {
+        Grid->InitProperties();
+    }
 }
 
 HeadlessHost::~HeadlessHost() = default;

@@ -6,6 +6,7 @@
 #include "quillgrid/hosts/headless/FakeEditBox.h"
 #include "quillgrid/hosts/headless/FakeImages.h"
 #include "quillgrid/hosts/headless/FakeScrollBar.h"
+#include "quillgrid/hosts/headless/FakeSite.h"
 #include "quillgrid/hosts/headless/FakeSurface.h"
 #include "quillgrid/hosts/headless/FakeTheme.h"
 #include "quillgrid/hosts/headless/FixedMetrics.h"
@@ -22,7 +23,9 @@ namespace quillgrid::headless {
 /// time, by the hands' own keys too.
 class HeadlessHost {
 public:
-    explicit HeadlessHost(Size size = {300, 200}, std::string_view locale = "de-DE", bool userMode = true);
+    /// A new control; with a bag one that a form saved.
+    explicit HeadlessHost(Size size = {300, 200}, std::string_view locale = "de-DE", bool userMode = true,
+                          const PropertyBag* bag = nullptr);
     ~HeadlessHost();
     HeadlessHost(const HeadlessHost&) = delete;
     HeadlessHost& operator=(const HeadlessHost&) = delete;
@@ -36,6 +39,7 @@ public:
     FakeClock Clock;
     FakeTheme Theme;
     FakeImages Images;
+    FakeSite Site;
     std::unique_ptr<Quillgrid> Grid;
 
     /// Writes every event of the control into the journal: "SelChange name".

@@ -46,6 +46,22 @@ void RecordingCanvas::Image(const Rect& area, const Picture&) {
     calls_.push_back("image " + TextOf(area));
 }
 
+void RecordingCanvas::PlacePicture(const Picture&, const PicturePlacement& placement) {
+    std::string call =
+        "picture " + std::to_string(placement.Position.X) + "," + std::to_string(placement.Position.Y);
+    const auto add = [&call](const char* name, const std::optional<std::int32_t>& number) {
+        if (number) call += std::string(" ") + name + "=" + std::to_string(*number);
+    };
+    add("width", placement.Width);
+    add("height", placement.Height);
+    add("left", placement.SourceLeft);
+    add("top", placement.SourceTop);
+    add("source-width", placement.SourceWidth);
+    add("source-height", placement.SourceHeight);
+    add("operation", placement.Operation);
+    calls_.push_back(call);
+}
+
 void RecordingCanvas::SetClip(const Rect& area) {
     calls_.push_back("clip " + TextOf(area));
 }

@@ -17,6 +17,7 @@ public:
     void PushButton(const Rect& area, bool pressed) override;
     void Text(const Rect& area, std::string_view text, const TextStyle& style) override;
     void Image(const Rect& area, const Picture& picture) override;
+    void PlacePicture(const Picture& picture, const PicturePlacement& placement) override;
     void SetClip(const Rect& area) override;
     void ClearClip() override;
 

@@ -56,6 +56,17 @@ QString OnOneLine(QString text) {
     return text;
 }
 
+/// The ternary raster operations that painters have too; others copy.
+QPainter::CompositionMode ModeOf(std::int32_t operation) {
+    switch (operation) {
+    case 0x008800C6: return QPainter::RasterOp_SourceAndDestination;
+    case 0x00EE0086: return QPainter::RasterOp_SourceOrDestination;
+    case 0x00660046: return QPainter::RasterOp_SourceXorDestination;
+    case 0x00330008: return QPainter::RasterOp_NotSource;
+    default: return QPainter::CompositionMode_SourceOver;
+    }
+}
+
 /// What is wider than any screen is not worth shaping.
 constexpr qsizetype LongestText = 10'000;
 
@@ -123,6 +134,26 @@ void QtCanvas::Image(const Rect& area, const Picture& picture) {
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
     drawable->Draw(painter_, QRectF(ToQRect(area)), palette_);
+    painter_.restore();
+}
+
+void QtCanvas::PlacePicture(const Picture& picture, const PicturePlacement& placement) {
+    const auto* drawable = dynamic_cast<const QtPicture*>(&picture);
+    if (!drawable) return;
+    const QSize natural = drawable->NaturalSize();
+    const QPointF from(placement.SourceLeft.value_or(0), placement.SourceTop.value_or(0));
+    const QSizeF part(placement.SourceWidth.value_or(natural.width()),
+                      placement.SourceHeight.value_or(natural.height()));
+    const QSizeF size(placement.Width.value_or(natural.width()), placement.Height.value_or(natural.height()));
+    if (part.isEmpty() || size.isEmpty()) return;
+    const QRectF place(QPointF(placement.Position.X, placement.Position.Y), size);
+    painter_.save();
+    painter_.setClipRect(place, Qt::IntersectClip);
+    painter_.setCompositionMode(ModeOf(placement.Operation.value_or(0)));
+    painter_.translate(place.topLeft());
+    painter_.scale(size.width() / part.width(), size.height() / part.height());
+    painter_.translate(-from);
+    drawable->Draw(painter_, QRectF(QPointF(), QSizeF(natural)), palette_);
     painter_.restore();
 }
 

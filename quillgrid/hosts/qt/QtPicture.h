@@ -2,6 +2,8 @@
 
 #include "quillgrid/platform/ImageSource.h"
 
+#include <QSize>
+
 #include <functional>
 #include <utility>
 
@@ -16,7 +18,11 @@ class QtPicture : public Picture {
 public:
     using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
 
-    explicit QtPicture(Drawing drawing) : drawing_(std::move(drawing)) {}
+    explicit QtPicture(Drawing drawing, QSize naturalSize = {16, 16})
+        : drawing_(std::move(drawing)), naturalSize_(naturalSize) {}
+
+    /// Logical pixels.
+    QSize NaturalSize() const { return naturalSize_; }
 
     void Draw(QPainter& painter, const QRectF& area, const QPalette& palette) const {
         drawing_(painter, area, palette);
@@ -24,6 +30,7 @@ public:
 
 private:
     Drawing drawing_;
+    QSize naturalSize_;
 };
 
 } // namespace quillgrid::qt

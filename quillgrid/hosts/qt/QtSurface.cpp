@@ -18,7 +18,9 @@ Size QtSurface::InnerSize() const {
 }
 
 void QtSurface::Invalidate(const Rect& area) {
-    if (!area.IsEmpty()) widget_.update(ToQRect(area));
+    if (area.IsEmpty()) return;
+    store_.MarkStale(ToQRect(area));
+    widget_.update(ToQRect(area));
 }
 
 void QtSurface::SetPointer(MousePointer pointer) {

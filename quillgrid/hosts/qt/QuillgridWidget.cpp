@@ -3,7 +3,6 @@
 #include "quillgrid/grid/Keys.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
-#include "quillgrid/hosts/qt/QtCanvas.h"
 #include "quillgrid/hosts/qt/WidgetHost.h"
 
 #include <QApplication>
@@ -79,8 +78,7 @@ QSize QuillgridWidget::minimumSizeHint() const {
 void QuillgridWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    QtCanvas canvas(painter, palette(), font());
-    host_->Grid.Paint(canvas, FromQRect(event->rect()));
+    host_->Window.Show(painter, event->region());
 }
 
 void QuillgridWidget::resizeEvent(QResizeEvent*) {

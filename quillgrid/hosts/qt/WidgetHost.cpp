@@ -1,6 +1,7 @@
 #include "quillgrid/hosts/qt/WidgetHost.h"
 
 #include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/QtCanvas.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
 
 #include <QPointer>
@@ -14,9 +15,10 @@ WidgetHost::WidgetHost(QuillgridWidget& widget)
       bubble_(std::make_unique<ErrorBubble>(&widget)),
       Metrics(widget),
       Desktop(widget),
-      Window(widget),
+      Window(widget, [this](QPainter& painter, const QRect& area) { Paint(painter, area); }),
       Editor(*edit_, widget),
       Bar(*bar_),
+      Container(widget),
       AmbientFont(FromQFont(widget.font())),
       Grid(Ports()),
       Refusals(Grid, *bubble_),
@@ -28,6 +30,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget)
     ConnectChildren();
     ConnectRefusals();
     ConnectEvents();
+    Grid.InitProperties();
     AcceptLocalSeparators();
 }
 
@@ -44,11 +47,11 @@ GridPorts WidgetHost::Ports() {
     return {.Window = Window,
             .Editor = Editor,
             .Bar = Bar,
+            .Container = Container,
             .Metrics = Metrics,
             .Time = Time,
             .Desktop = Desktop,
             .UserLocale = LocaleFromQt(widget_.locale()),
-            .AmbientFont = AmbientFont,
             .Images = &Images};
 }
 
@@ -105,6 +108,11 @@ void WidgetHost::AcceptLocalSeparators() {
     Grid.SetDateSeparators(with(Grid.DateSeparators(), locale.DateSeparator));
     Grid.SetTimeSeparators(with(Grid.TimeSeparators(), locale.TimeSeparator));
     Grid.SetNumSeparators(with(Grid.NumSeparators(), locale.DecimalSeparator));
+}
+
+void WidgetHost::Paint(QPainter& painter, const QRect& area) {
+    QtCanvas canvas(painter, widget_.palette(), widget_.font());
+    Grid.Paint(canvas, FromQRect(area));
 }
 
 void WidgetHost::FontChanged() {

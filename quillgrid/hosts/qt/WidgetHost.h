@@ -9,6 +9,7 @@
 #include "quillgrid/hosts/qt/QtEditBox.h"
 #include "quillgrid/hosts/qt/QtImageSource.h"
 #include "quillgrid/hosts/qt/QtScrollBar.h"
+#include "quillgrid/hosts/qt/QtSite.h"
 #include "quillgrid/hosts/qt/QtSurface.h"
 #include "quillgrid/hosts/qt/QtTextMetrics.h"
 #include "quillgrid/hosts/qt/QtTheme.h"
@@ -32,6 +33,8 @@ public:
     /// Fonts follow the widget's unless the form set its own.
     void FontChanged();
     void LookChanged();
+    /// Paints the control, what is behind it included.
+    void Paint(QPainter& painter, const QRect& area);
 
 private:
     GridPorts Ports();
@@ -55,6 +58,7 @@ public:
     QtSurface Window;
     QtEditBox Editor;
     QtScrollBar Bar;
+    QtSite Container;
     Font AmbientFont;
     Quillgrid Grid;
     RefusalMessages Refusals;

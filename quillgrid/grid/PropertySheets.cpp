@@ -1,0 +1,103 @@
+#include "quillgrid/grid/PropertySheets.h"
+
+#include "quillgrid/cells/CellProperties.h"
+#include "quillgrid/cells/LanguageTexts.h"
+#include "quillgrid/grid/GridPropertyTable.h"
+
+namespace quillgrid {
+
+namespace {
+
+void RefuseUnless(bool converted) {
+    if (!converted) throw RaiseControlError(qgerrUserDefined, "Property:Value Property Let");
+}
+
+} // namespace
+
+std::shared_ptr<Properties> PropertySheets::GridSheet(const Holder& holder) {
+    if (!std::exchange(grid_.Built, true)) {
+        for (const std::uint8_t row : SheetOrder)
+            grid_.List->Add({.Key = std::string(PropertyAt(row).Name)});
+        Listen(grid_, holder, &PropertySheets::WriteGrid, &PropertySheets::ReadGrid);
+    }
+    return grid_.List;
+}
+
+std::shared_ptr<Properties> PropertySheets::CellSheet(const Holder& holder) {
+    if (!std::exchange(cell_.Built, true)) {
+        for (const CellProperty& property : ListedCellProperties())
+            cell_.List->Add({.Key = std::string(property.Name)});
+        Listen(cell_, holder, &PropertySheets::WriteCell, &PropertySheets::ReadCell);
+    }
+    return cell_.List;
+}
+
+void PropertySheets::Listen(Sheet& sheet, const Holder& holder, Handler written, Handler read) {
+    sheet.List->SelChange.Listen([this, &sheet, holder, written, read](Property& item) {
+        if (const auto held = holder.lock()) Hear(sheet, item, holder, written, read);
+    });
+}
+
+void PropertySheets::Hear(Sheet& sheet, Property& item, const Holder& holder, Handler written, Handler read) {
+    if (state_.Terminated) return;
+    const auto carry = [this, holder](Handler handler) {
+        return [this, holder, handler](const std::string& name, Variant& value) {
+            const auto held = holder.lock();
+            if (held && !state_.Terminated) (this->*handler)(name, value);
+        };
+    };
+    sheet.Written = item.Changed.Connect(carry(written));
+    sheet.Read = item.QueryValue.Connect(carry(read));
+}
+
+void PropertySheets::WriteGrid(const std::string& name, Variant& value) {
+    if (const auto* property = FindGridProperty(name)) RefuseUnless(setter_.Set(*property, value));
+}
+
+/// The sheet has no way to read AutoHolidays: it gives what was written through it last.
+void PropertySheets::ReadGrid(const std::string& name, Variant& value) {
+    const auto* property = FindGridProperty(name);
+    if (property && property != &PropertyOf<&GridSettings::AutoHolidays>) value = setter_.Get(*property);
+}
+
+void PropertySheets::WriteCell(const std::string& name, Variant& value) {
+    const auto cell = CurrentCell();
+    const auto* property = FindCellProperty(name);
+    if (cell && property && property->Write) RefuseUnless(property->Write(*cell, value, locale_));
+}
+
+void PropertySheets::ReadCell(const std::string& name, Variant& value) {
+    const auto* property = FindCellProperty(name);
+    if (!property || !property->Read) return;
+    const auto cell = CurrentCell();
+    value = cell ? property->Read(*cell) : Variant::Null();
+}
+
+std::shared_ptr<Cell> PropertySheets::CurrentCell() const {
+    return state_.Working ? state_.Working->shared_from_this() : state_.Current;
+}
+
+void PropertySheets::DefineCurrentCell(const Record& record, const Holder& holder) {
+    const auto held = holder.lock();
+    const FlagGuard silent(state_.Silent, true, false);
+    const auto sheet = CellSheet(holder);
+    for (std::int32_t position = 1; position <= sheet->Count(); ++position) {
+        const std::string name = sheet->At(static_cast<std::size_t>(position))->Key();
+        auto value = record.Field(name);
+        if (!value) continue;
+        try {
+            sheet->Item(name)->SetValue(std::move(*value));
+        } catch (const ControlError&) { // the other fields may still fit
+        }
+    }
+}
+
+void PropertySheets::Terminate() {
+    for (Sheet* sheet : {&grid_, &cell_}) {
+        sheet->Written.Disconnect();
+        sheet->Read.Disconnect();
+        sheet->List->Clear();
+    }
+}
+
+} // namespace quillgrid

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "quillgrid/platform/Site.h"
+
+#include <functional>
+
+class QWidget;
+
+namespace quillgrid::qt {
+
+/// The widget as the container of its control. Units are logical pixels.
+class QtSite : public Site {
+public:
+    /// The widget must outlive the site.
+    explicit QtSite(QWidget& widget) : widget_(widget) {}
+
+    bool UserMode() const override { return true; }
+    Font AmbientFont() const override;
+    /// The object name.
+    std::string DisplayName() const override;
+    double ToContainerUnits(double pixels) const override { return pixels; }
+    double ToPixels(double containerUnits) const override { return containerUnits; }
+    void PropertyChanged(std::string_view key) override { Reported(key); }
+    void ShowAbout(const AboutTexts& texts) override;
+
+    std::function<void(std::string_view key)> Reported = [](std::string_view) {};
+
+private:
+    QWidget& widget_;
+};
+
+} // namespace quillgrid::qt
