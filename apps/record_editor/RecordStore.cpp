@@ -25,7 +25,7 @@ Outcome<Done> RecordStore::Open() {
 QString RecordStore::KeyColumns() const {
     QStringList columns;
     for (const QString& name : schema_.PrimaryKey) {
-        const QString quoted = SqlDialect::Quote(name);
+        const QString quoted = database_.Dialect().ColumnName(name);
         columns << (database_.Dialect().IsPostgres() ? quoted + u"::text" : quoted);
     }
     return columns.join(u", ");
@@ -34,7 +34,7 @@ QString RecordStore::KeyColumns() const {
 QString RecordStore::KeyMatches() const {
     QStringList matches;
     for (const QString& name : schema_.PrimaryKey)
-        matches << database_.Dialect().Equals(SqlDialect::Quote(name));
+        matches << database_.Dialect().Equals(database_.Dialect().ColumnName(name));
     return matches.join(u" AND ");
 }
 
@@ -49,7 +49,7 @@ QVariantList RecordStore::KeyOf(const QSqlQuery& row) const {
 Outcome<Done> RecordStore::ReadKeys() {
     QStringList order;
     for (const QString& name : schema_.PrimaryKey)
-        order << SqlDialect::Quote(name);
+        order << database_.Dialect().ColumnName(name);
     auto rows = database_.Run(u"SELECT " + KeyColumns() + u" FROM " + schema_.Name.Quoted + u" ORDER BY " +
                               order.join(u", ") + u" LIMIT " + QString::number(mostRecords_ + 1));
     if (!rows) return rows.Reason();
@@ -75,7 +75,7 @@ QString RecordStore::SelectColumns(const QList<qsizetype>& columns) const {
     QStringList expressions;
     for (const qsizetype index : columns) {
         const Column& column = schema_.Columns[index];
-        const QString name = SqlDialect::Quote(column.Name);
+        const QString name = dialect.ColumnName(column.Name);
         expressions << dialect.KindOf(name, column.Binary)
                     << dialect.ValueOf(name, column.Binary, column.Money);
     }
@@ -151,7 +151,7 @@ Outcome<Done> RecordStore::Update(qsizetype position, const QList<FieldChange>& 
     QStringList assignments;
     QVariantList values;
     for (const FieldChange& change : changes) {
-        assignments << SqlDialect::Quote(schema_.Columns[change.Column].Name) + u" = ?";
+        assignments << database_.Dialect().ColumnName(schema_.Columns[change.Column].Name) + u" = ?";
         values << change.Value;
     }
     const auto key = Committed(u"UPDATE " + schema_.Name.Quoted + u" SET " + assignments.join(u", ") +
@@ -169,7 +169,7 @@ Outcome<qsizetype> RecordStore::Insert(const QList<FieldChange>& changes) {
     QStringList names;
     QVariantList values;
     for (const FieldChange& change : changes) {
-        names << SqlDialect::Quote(schema_.Columns[change.Column].Name);
+        names << database_.Dialect().ColumnName(schema_.Columns[change.Column].Name);
         values << change.Value;
     }
     const QString columns =

@@ -10,8 +10,8 @@ namespace quillgrid::editor {
 namespace {
 
 QString SelectEntries(const SqlDialect& dialect, const ForeignKey& reference, qsizetype limit) {
-    const QString key = SqlDialect::Quote(reference.Column);
-    const QString text = reference.TextColumn.isEmpty() ? key : SqlDialect::Quote(reference.TextColumn);
+    const QString key = dialect.ColumnName(reference.Column);
+    const QString text = reference.TextColumn.isEmpty() ? key : dialect.ColumnName(reference.TextColumn);
     return u"SELECT " + dialect.KindOf(key, false) + u", " + dialect.ValueOf(key, false, false) + u", " +
            dialect.ValueOf(text, false, false) + u" FROM " + reference.Table + u" WHERE " + key +
            u" IS NOT NULL LIMIT " + QString::number(limit + 1);

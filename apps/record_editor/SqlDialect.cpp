@@ -8,6 +8,13 @@ QString SqlDialect::Quote(const QString& identifier) {
     return u'"' + inner + u'"';
 }
 
+QString SqlDialect::ColumnName(const QString& name) const {
+    if (postgres_) return Quote(name);
+    QString inner = name;
+    inner.replace(u'`', QLatin1String("``"));
+    return u'`' + inner + u'`';
+}
+
 // Names are joined in by concatenation: QString::arg would replace a "%1" inside a quoted name.
 QString SqlDialect::KindOf(const QString& column, bool binary) const {
     const QString limit = QString::number(LongestText);

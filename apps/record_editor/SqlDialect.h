@@ -13,6 +13,9 @@ public:
 
     /// An identifier in double quotes, whatever characters it has.
     static QString Quote(const QString& identifier);
+    /// A column's name, an error where the table has no such column. SQLite takes an unknown name in double
+    /// quotes for a text, and would read that text out of every record.
+    QString ColumnName(const QString& name) const;
     /// How a value is stored: 'null', 'integer', 'real', 'text', 'long' (a text too long to show whole),
     /// 'blob'.
     QString KindOf(const QString& column, bool binary) const;

@@ -81,6 +81,21 @@ TEST(RecordStore, NoticesOthers) {
     EXPECT_FALSE(opened.Store.Read(0));
 }
 
+TEST(RecordStore, NeverTakesAnUnknownColumnForAText) {
+    const TestDatabase file(QStringLiteral("CREATE TABLE t (k TEXT PRIMARY KEY, a TEXT);\n"
+                                           "INSERT INTO t VALUES ('k', 'one');\n"));
+    Opened opened(file, QStringLiteral("t"));
+    const FieldChange change = opened.Change(0, 1, QStringLiteral("two"));
+    file.Execute(QStringLiteral("ALTER TABLE t RENAME COLUMN a TO b"));
+    const auto row = opened.Store.Read(0);
+    ASSERT_FALSE(row) << (*row)[1].Text.toStdString();
+    EXPECT_TRUE(row.Message().contains(QStringLiteral("no such column"))) << row.Message().toStdString();
+    file.Execute(QStringLiteral("ALTER TABLE t RENAME COLUMN b TO a"));
+    file.Execute(QStringLiteral("ALTER TABLE t RENAME COLUMN k TO key"));
+    EXPECT_FALSE(opened.Store.Update(0, {change}));
+    EXPECT_EQ(file.Ask(QStringLiteral("SELECT a FROM t")), QStringLiteral("one"));
+}
+
 TEST(RecordStore, SaysThatTheFileIsLocked) {
     const TestDatabase file(Simple);
     Opened opened(file, QStringLiteral("t"));
@@ -116,7 +131,7 @@ TEST(RecordStore, FindsRowsByKeysOfAnyKind) {
 
 TEST(RecordStore, TakesHostileNames) {
     const QString table = QStringLiteral("a \"b\"; DROP TABLE t; -- ?:x [%1]'");
-    const QString column = QStringLiteral("c'\"]; DELETE FROM t; ? :p %2");
+    const QString column = QStringLiteral("c'\"]`; DELETE FROM t; ? :p %2");
     const QString quoted = SqlDialect::Quote(table);
     const TestDatabase file(u"CREATE TABLE " + quoted + u" (\"the key?\" TEXT PRIMARY KEY, " +
                             SqlDialect::Quote(column) + u" TEXT);\nINSERT INTO " + quoted +
