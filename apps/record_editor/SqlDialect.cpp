@@ -1,6 +1,14 @@
 #include "apps/record_editor/SqlDialect.h"
 
 namespace quillgrid::editor {
+namespace {
+
+/// SQLite's own functions see such a text end at the zero: half of it would be shown as the whole.
+QString HoldsZero(const QString& column) {
+    return u"(typeof(" + column + u") = 'text' AND instr(" + column + u", char(0)) > 0)";
+}
+
+} // namespace
 
 QString SqlDialect::Quote(const QString& identifier) {
     QString inner = identifier;
@@ -24,8 +32,9 @@ QString SqlDialect::KindOf(const QString& column, bool binary) const {
                    : u"CASE WHEN length(" + column + u"::text) > " + limit + u" THEN 'long' ELSE 'text' END";
         return u"CASE WHEN " + column + u" IS NULL THEN 'null' ELSE " + present + u" END";
     }
-    return u"CASE WHEN typeof(" + column + u") = 'text' AND length(" + column + u") > " + limit +
-           u" THEN 'long' ELSE typeof(" + column + u") END";
+    return u"CASE WHEN " + HoldsZero(column) + u" THEN 'blob' WHEN typeof(" + column +
+           u") = 'text' AND length(" + column + u") > " + limit + u" THEN 'long' ELSE typeof(" + column +
+           u") END";
 }
 
 QString SqlDialect::ValueOf(const QString& column, bool binary, bool money) const {
@@ -36,8 +45,9 @@ QString SqlDialect::ValueOf(const QString& column, bool binary, bool money) cons
         const QString text = column + (money ? u"::numeric::text" : u"::text");
         return u"left(" + text + u", " + limit + u")";
     }
-    return u"CASE typeof(" + column + u") WHEN 'blob' THEN length(" + column + u") WHEN 'text' THEN substr(" +
-           column + u", 1, " + limit + u") ELSE " + column + u" END";
+    return u"CASE WHEN typeof(" + column + u") = 'blob' OR " + HoldsZero(column) + u" THEN length(CAST(" +
+           column + u" AS BLOB)) WHEN typeof(" + column + u") = 'text' THEN substr(" + column + u", 1, " +
+           limit + u") ELSE " + column + u" END";
 }
 
 QString SqlDialect::Equals(const QString& column) const {

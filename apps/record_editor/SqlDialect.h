@@ -17,7 +17,7 @@ public:
     /// quotes for a text, and would read that text out of every record.
     QString ColumnName(const QString& name) const;
     /// How a value is stored: 'null', 'integer', 'real', 'text', 'long' (a text too long to show whole),
-    /// 'blob'.
+    /// 'blob' (also a text with a zero character inside).
     QString KindOf(const QString& column, bool binary) const;
     /// The value itself without loss; the beginning of a long text, the length of a blob. PostgreSQL writes
     /// everything as text, so that no driver rounds a number or loses a date on the way.

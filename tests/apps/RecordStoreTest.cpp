@@ -185,5 +185,15 @@ TEST(RecordStore, HoldsBackWhatIsTooLarge) {
     EXPECT_EQ((*row)[2].Text, QStringLiteral("(5000000 bytes)"));
 }
 
+TEST(RecordStore, ShowsNoHalfOfATextAsTheWhole) {
+    const TestDatabase file(QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, a TEXT);\n"
+                                           "INSERT INTO t VALUES (1, 'ä' || char(0) || 'b');\n"));
+    Opened opened(file, QStringLiteral("t"));
+    const auto row = opened.Store.Read(0);
+    ASSERT_TRUE(row);
+    EXPECT_EQ((*row)[1].Kind, FieldValue::Storage::Binary);
+    EXPECT_EQ((*row)[1].Text, QStringLiteral("(4 bytes)"));
+}
+
 } // namespace
 } // namespace quillgrid::editor
