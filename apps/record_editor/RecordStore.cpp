@@ -1,11 +1,26 @@
 #include "apps/record_editor/RecordStore.h"
 
+#include "apps/record_editor/ColumnType.h"
+
+#include <algorithm>
 #include <numeric>
 
 namespace quillgrid::editor {
 namespace {
 
 const QString GoneMessage = QStringLiteral("The record was deleted by someone else, or its key was changed.");
+
+bool IsSecret(const Column& column) {
+    return std::any_of(column.Types.begin(), column.Types.end(), [](const QString& declared) {
+        return ColumnType(declared).Template() == qgctPassword;
+    });
+}
+
+QString ChangedMessage(const Column& column, const FieldValue& now) {
+    const QString holds = QStringLiteral("; it now holds “%1”").arg(now.Text.left(60));
+    return QStringLiteral("Someone else changed “%1” meanwhile%2. Revert to load the record again.")
+        .arg(column.Name, IsSecret(column) ? QString() : holds);
+}
 
 QString Placeholders(qsizetype count) {
     return QStringList(count, QStringLiteral("?")).join(u", ");
@@ -113,10 +128,7 @@ Outcome<Done> RecordStore::CheckUnchanged(qsizetype position, const QList<FieldC
     for (int i = 0; i < changes.size(); ++i) {
         const auto now = FieldValue::FromQuery(rows->value(2 * i).toString(), rows->value(2 * i + 1));
         if (now == changes[i].Loaded) continue;
-        return Failure{
-            QStringLiteral("Someone else changed “%1” meanwhile; it now holds “%2”. Revert to load the "
-                           "record again.")
-                .arg(schema_.Columns[columns[i]].Name, now.Text)};
+        return Failure{ChangedMessage(schema_.Columns[columns[i]], now)};
     }
     return Done{};
 }

@@ -96,6 +96,18 @@ TEST(RecordStore, NeverTakesAnUnknownColumnForAText) {
     EXPECT_EQ(file.Ask(QStringLiteral("SELECT a FROM t")), QStringLiteral("one"));
 }
 
+TEST(RecordStore, KeepsPasswordsToItself) {
+    const TestDatabase file(QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, p PASSWORD_TEXT);\n"
+                                           "INSERT INTO t VALUES (1, 'old');\n"));
+    Opened opened(file, QStringLiteral("t"));
+    const FieldChange change = opened.Change(0, 1, QStringLiteral("mine"));
+    file.Execute(QStringLiteral("UPDATE t SET p = 'theirs'"));
+    const auto changed = opened.Store.Update(0, {change});
+    ASSERT_FALSE(changed);
+    EXPECT_FALSE(changed.Message().contains(QStringLiteral("theirs"))) << changed.Message().toStdString();
+    EXPECT_TRUE(changed.Message().contains(QStringLiteral("“p”"))) << changed.Message().toStdString();
+}
+
 TEST(RecordStore, SaysThatTheFileIsLocked) {
     const TestDatabase file(Simple);
     Opened opened(file, QStringLiteral("t"));
