@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/ControlError.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/cells/Cell.h"
