@@ -120,7 +120,14 @@ TEST_F(QtWidget, PasteGoesOnlyIntoFreeText) {
     form.Press(Qt::Key_Up);
     form.Press(Qt::Key_Up);
     form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
-    EXPECT_EQ(form.Edit()->text(), QString::fromUtf8("12ä😀"));
+    EXPECT_EQ(form.Edit()->text(), QString::fromUtf8("1 2ä😀"));
+}
+
+TEST_F(QtWidget, PastedLinesBecomeOneLine) {
+    GoTo(1);
+    QApplication::clipboard()->setText(QString::fromUtf8("\nHauptstr. 5\r\n10115\tBerlin\u2029\x01Mitte\n"));
+    form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("Hauptstr. 5 10115 Berlin Mitte"));
 }
 
 TEST_F(QtWidget, PastedTextPassesTheFilterAndLimitsOfItsCell) {
