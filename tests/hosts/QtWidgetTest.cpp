@@ -1,6 +1,7 @@
 #include "QtForm.h"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -128,6 +129,17 @@ TEST_F(QtWidget, PastedLinesBecomeOneLine) {
     QApplication::clipboard()->setText(QString::fromUtf8("\nHauptstr. 5\r\n10115\tBerlin\u2029\x01Mitte\n"));
     form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
     EXPECT_EQ(form.Edit()->text(), QStringLiteral("Hauptstr. 5 10115 Berlin Mitte"));
+}
+
+TEST_F(QtWidget, LongTextIsPastedWithoutAPause) {
+    form.Grid().Cells().Item("name")->SetMaxLength(15'001);
+    GoTo(1);
+    QApplication::clipboard()->setText(QString(20'000, u'a'));
+    QElapsedTimer clock;
+    clock.start();
+    form.Press(Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    EXPECT_LT(clock.elapsed(), 4000) << "milliseconds";
+    EXPECT_EQ(form.Edit()->text().size(), 15'002);
 }
 
 TEST_F(QtWidget, PastedTextPassesTheFilterAndLimitsOfItsCell) {

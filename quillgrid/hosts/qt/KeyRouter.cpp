@@ -10,11 +10,15 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillgrid::qt {
 
 namespace {
 
 constexpr char32_t EnterCharacter = 13;
+constexpr qsizetype LongestPiece = 1000;
 
 /// The code point that a key types; Enter, Backspace and Escape are their control characters everywhere.
 char32_t CharacterOf(const QKeyEvent& event) {
@@ -76,13 +80,34 @@ void KeyRouter::KeyUp(const QKeyEvent& event) {
 
 void KeyRouter::TypeText(const QString& text) {
     const QPointer<KeyRouter> alive(this);
+    QString piece;
     for (const char32_t typed : text.toUcs4()) {
         if (IsControlCharacter(typed)) continue;
         char32_t character = typed;
         const bool used = grid_.KeyPress(character);
         if (!alive) return;
-        if (!used && character != 0 && !edit_.isReadOnly()) edit_.insert(QString::fromUcs4(&character, 1));
+        if (used || character == 0) continue;
+        piece += QString::fromUcs4(&character, 1);
+        if (piece.size() >= PieceSize()) Insert(std::exchange(piece, {}));
     }
+    Insert(piece);
+}
+
+// The box lays its whole text out after each insertion, so a long text goes in piece by piece. A piece is a
+// single character where the control's answer to the next one depends on it: while something is selected,
+// near the cell's limit, where the case of a letter follows from the one before, and in numbers, whose minus
+// jumps to the front.
+qsizetype KeyRouter::PieceSize() const {
+    const Cell* cell = grid_.Cell();
+    if (!cell || edit_.hasSelectedText() || edit_.text().isEmpty()) return 1;
+    if (cell->CharCase() == qgccUpperFirst || cell->CharCase() == qgccNice) return 1;
+    if (cell->ValidationRule() != qgvrNone) return 1;
+    const qsizetype room = cell->MaxLength() - edit_.text().size();
+    return std::clamp(room, qsizetype{1}, LongestPiece);
+}
+
+void KeyRouter::Insert(const QString& piece) {
+    if (!piece.isEmpty() && !edit_.isReadOnly()) edit_.insert(piece);
 }
 
 bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {

@@ -46,6 +46,8 @@ private:
     bool DoubleClick(QMouseEvent* event);
     bool TypeKey(const QKeyEvent& event);
     bool LeaveByControlTab(const QKeyEvent& event);
+    qsizetype PieceSize() const;
+    void Insert(const QString& piece);
 
     Quillgrid& grid_;
     GridLineEdit& edit_;
