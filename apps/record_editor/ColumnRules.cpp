@@ -40,7 +40,8 @@ void ChooseNumberCell(ColumnRule& rule, const Column& column) {
     } else if (TypeOf(column).IsPlainDecimal()) {
         // Exact like money, but nothing says that it is money.
         rule.HidesImage = true;
-        rule.Format = base.Scale() < 0 ? QStringLiteral("#0.####") : u"#0." + QString(base.Scale(), u'0');
+        rule.Format =
+            base.Scale() < 0 ? QStringLiteral("General Number") : u"#0." + QString(base.Scale(), u'0');
     }
 }
 

@@ -52,6 +52,15 @@ TEST(RecordForm, ShowsValuesInTheUsersWriting) {
     EXPECT_FALSE(form.Shown->IsModified());
 }
 
+TEST(RecordForm, NumbersWithoutAScaleShowTheDecimalsTheyHave) {
+    Form form(QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, whole NUMERIC, half NUMERIC);\n"
+                             "INSERT INTO t VALUES (1, 3, 1000.5);\n"));
+    EXPECT_EQ(form.At("whole").Text(), "3");
+    EXPECT_EQ(form.At("half").Text(), "1000.5");
+    EXPECT_TRUE(form.Binding("half").Fits());
+    EXPECT_EQ(form.Type("whole", "0.25"), "0.25");
+}
+
 TEST(RecordForm, SavesOnlyWhatTheUserChanged) {
     Form form(QStringLiteral(
         "CREATE TABLE t (id INTEGER PRIMARY KEY, n INTEGER, s TEXT, money CURRENCY_TEXT);\n"
