@@ -2,6 +2,8 @@
 
 #include "quillgrid/base/DateTime.h"
 #include "quillgrid/base/Decimal.h"
+#include "quillgrid/base/Text.h"
+#include "quillgrid/cells/LanguageTexts.h"
 #include "quillgrid/locale/Coercion.h"
 #include "quillgrid/locale/DateReader.h"
 
@@ -133,6 +135,16 @@ std::optional<QString> DateAsTyped(const QString& text, bool wantDate, const Loc
     return wantDate ? IsoDate(read->Value) : IsoTime(read->Value);
 }
 
+/// The form says yes and no in its own language, whatever the locale is.
+std::optional<bool> TruthAsTyped(const QString& text, const Locale& locale) {
+    const std::string word = text.trimmed().toStdString();
+    for (const LanguageConstants language : {qglgGerman, qglgEnglish, qglgFrench, qglgItalian, qglgSpanish}) {
+        if (EqualIgnoreCase(word, LocalText(language, 1))) return true;
+        if (EqualIgnoreCase(word, LocalText(language, 2))) return false;
+    }
+    return ToBoolean(Variant(word), locale);
+}
+
 } // namespace
 
 QVariant FieldCodec::SqlNull() {
@@ -210,7 +222,7 @@ std::optional<QVariant> FieldCodec::EncodeTyped(const QString& text, ValueKind k
     case ValueKind::Date: written = DecodeDate(text) ? text : DateAsTyped(text, true, locale); break;
     case ValueKind::Time: written = DecodeTime(text) ? text : DateAsTyped(text, false, locale); break;
     case ValueKind::Boolean: {
-        const auto truth = ToBoolean(Variant(text.toStdString()), locale);
+        const auto truth = TruthAsTyped(text, locale);
         return truth ? std::optional(Encode(Variant(*truth), kind, {})) : std::nullopt;
     }
     case ValueKind::Text:

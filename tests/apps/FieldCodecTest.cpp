@@ -95,6 +95,9 @@ TEST(FieldCodec, TypedTextMayBeWiderThanTheCellButMustBeOfTheKind) {
     EXPECT_EQ(typed("tomorrow", ValueKind::Date), QStringLiteral("refused"));
     EXPECT_EQ(typed("9:30", ValueKind::Time), QStringLiteral("09:30:00"));
     EXPECT_EQ(typed("maybe", ValueKind::Boolean), QStringLiteral("refused"));
+    EXPECT_EQ(typed(" Ja", ValueKind::Boolean), QStringLiteral("1"));
+    EXPECT_EQ(typed("no", ValueKind::Boolean), QStringLiteral("0"));
+    EXPECT_EQ(typed("si", ValueKind::Boolean), QStringLiteral("1"));
 }
 
 } // namespace
