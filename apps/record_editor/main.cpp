@@ -23,6 +23,15 @@ int Complain(const QString& message) {
     return UsageOrDatabaseError;
 }
 
+/// Qt's remarks about surroundings in which everything works all the same would only look like faults.
+void SayWhatMatters(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    for (const QStringView remark :
+         {u"QStandardPaths: XDG_RUNTIME_DIR not set", u"This plugin does not support propagateSizeHints()"}) {
+        if (message.startsWith(remark)) return;
+    }
+    std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, message)));
+}
+
 QStringList ArgumentsOf(int argc, char** argv) {
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
@@ -104,6 +113,7 @@ int main(int argc, char** argv) {
     const auto address =
         DatabaseAddress::Parse(line->Address.isEmpty() ? QStringLiteral(SAMPLE_DATABASE) : line->Address);
     if (!address) return Complain(address.Message());
+    qInstallMessageHandler(SayWhatMatters);
     PrepareSurroundings(*line);
     if (!line->Locale.isEmpty()) QLocale::setDefault(QLocale(line->Locale));
     QApplication application(argc, argv);

@@ -65,10 +65,10 @@ TEST(CommandLine, EndsWithStatusTwoAndSaysWhy) {
 TEST(CommandLine, WritesAPicture) {
     QTemporaryDir folder;
     const QString picture = folder.filePath(QStringLiteral("form.png"));
-    EXPECT_EQ(
-        RunEditor({QStringLiteral("--picture"), picture, QStringLiteral("--scale"), QStringLiteral("2")})
-            .Status,
-        0);
+    const EditorRun run =
+        RunEditor({QStringLiteral("--picture"), picture, QStringLiteral("--scale"), QStringLiteral("2")});
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Errors, QString()) << "nothing to complain about";
     EXPECT_GT(QFileInfo(picture).size(), 5000);
 }
 
