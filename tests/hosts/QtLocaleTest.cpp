@@ -31,6 +31,12 @@ TEST(LocaleFromQt, OthersWriteDatesAsTheirCountryDoes) {
     EXPECT_EQ(Format(Spring, "Long Time", Of("en_AU")).substr(0, 7), "1:05:05");
 }
 
+TEST(LocaleFromQt, NoLocaleIsAmericanEnglish) {
+    const Locale none = LocaleFromQt(QLocale::c());
+    EXPECT_EQ(Format(Spring, "Short Date", none), "5/3/2026");
+    EXPECT_EQ(Format(Currency::FromScaled(12'345'000), "Currency", none), "$1,234.50");
+}
+
 TEST(LocaleFromQt, MoneyAndNumbers) {
     EXPECT_EQ(Format(Currency::FromScaled(-12'345'000), "Currency", Of("ja_JP")).find('-'), 0U);
     EXPECT_EQ(Of("ja_JP").CurrencyDecimals, 0);

@@ -14,6 +14,9 @@ constexpr int DaysPerWeek = 7;
 constexpr int MonthsPerYear = 12;
 
 std::string NameOf(const QLocale& locale) {
+    // Programs without a locale run in "C". It speaks American English, but has neither a currency nor a
+    // short date.
+    if (locale.language() == QLocale::C) return "en-US";
     return FromQString(locale.name().replace(u'_', u'-'));
 }
 
