@@ -66,6 +66,7 @@ TEST(PatternFromQt, TranslatesLettersAndShieldsLiterals) {
     EXPECT_EQ(convert("dddd, d. MMMM yyyy"), "dddd, d. mmmm yyyy");
     EXPECT_EQ(convert("yy"), "yyyy");
     EXPECT_EQ(convert("HH:mm:ss t"), "hh:nn:ss");
+    EXPECT_EQ(convert("H:mm:ss (t)"), "h:nn:ss");
     EXPECT_EQ(convert("h:mm AP"), "h:nn AM/PM");
     EXPECT_EQ(convert("d 'de' MMMM"), "d \\d\\e mmmm");
     EXPECT_EQ(convert("h 'o''clock'"), "h \\o'\\c\\l\\o\\c\\k");

@@ -35,7 +35,8 @@ public:
     std::string Read() {
         while (at_ < pattern_.size())
             ReadPart();
-        return FromQString(ToQString(out_).trimmed());
+        // What stood in brackets may have been the time zone alone.
+        return FromQString(ToQString(out_).remove(QStringLiteral("()")).trimmed());
     }
 
 private:
