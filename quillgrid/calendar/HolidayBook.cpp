@@ -1,0 +1,97 @@
+#include "quillgrid/calendar/HolidayBook.h"
+
+#include "quillgrid/calendar/HolidayAccess.h"
+
+namespace quillgrid {
+
+HolidayBook::~HolidayBook() {
+    Release();
+}
+
+/// The rules may outlive this: they keep the dates that they would show.
+void HolidayBook::Release() {
+    if (Link().Pending == this) Link().Settle();
+}
+
+void HolidayBook::SetRules(std::shared_ptr<Holidays> rules) {
+    if (rules == rules_) return;
+    Release();
+    rules_ = rules ? std::move(rules) : std::make_shared<Holidays>();
+    current_ = nullptr;
+    resolved_ = nullptr;
+}
+
+void HolidayBook::SetUserDay(std::size_t which, std::int32_t day) {
+    if (user_[which] == day) return;
+    user_[which] = day;
+    current_ = nullptr;
+}
+
+const std::shared_ptr<const RuleSnapshot>& HolidayBook::Current() {
+    if (current_ && currentRevision_ == Link().Revision) return current_;
+    const auto& before = current_ ? current_ : resolved_;
+    current_ = RuleSnapshot::Of(*rules_, user_, before.get());
+    currentRevision_ = Link().Revision;
+    return current_;
+}
+
+/// Whether the rules still show what the last resolution gave them.
+bool HolidayBook::IsUntouched() const {
+    return resolved_ && resolvedRevision_ == Link().Revision && resolution_ == Link().Resolutions;
+}
+
+void HolidayBook::ResolveYear(std::int32_t year) {
+    const auto& current = Current();
+    if (year == year_ && resolved_ == current && IsUntouched()) return;
+    if (resolved_ != current) resolved_ = current;
+    year_ = year;
+    resolvedRevision_ = Link().Revision;
+    resolution_ = ++Link().Resolutions;
+    Link().Pending = this;
+}
+
+void HolidayBook::SettleRules() {
+    const auto anchors = YearAnchors::Of(year_, resolved_->User);
+    const auto& list = HolidaysAccess::List(*rules_);
+    for (std::size_t i = 0; i < resolved_->Rules.size(); ++i)
+        HolidayAccess::Write(*list.At(i + 1), year_, ResolveRule(resolved_->Rules[i], anchors));
+}
+
+void HolidayBook::Build(std::int32_t month) {
+    if (IsUntouched()) {
+        table_.BuildFrom(resolved_, year_, month);
+    } else {
+        Link().Settle();
+        table_.BuildFrom(*rules_, year_, month);
+    }
+}
+
+void HolidayBook::Show(std::int32_t year, std::int32_t month) {
+    if (year != year_) ResolveYear(year);
+    Build(month);
+}
+
+void HolidayBook::Resolve(std::int32_t year, std::int32_t month) {
+    ResolveYear(year);
+    Build(month);
+}
+
+void HolidayBook::Visit(CivilDate date) {
+    if (date.Year != year_) {
+        Resolve(date.Year, date.Month);
+    } else if (!table_.IsOf(date.Year, date.Month)) {
+        Build(date.Month);
+    }
+}
+
+bool HolidayBook::IsHoliday(std::int32_t day) {
+    const CivilDate date = PartsFromDay(day);
+    Visit(date);
+    return table_.IsMarked(date.Day);
+}
+
+bool HolidayBook::IsUniform() {
+    return IsUntouched() && Current() == resolved_;
+}
+
+} // namespace quillgrid

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "quillgrid/calendar/RuleSnapshot.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace quillgrid {
+
+/// The holidays of one month: which days are marked and what every day is called. Built from a snapshot, it
+/// is filled only when someone looks.
+class MonthTable {
+public:
+    std::int32_t Year() const { return year_; }
+    std::int32_t Month() const { return month_; }
+    bool IsOf(std::int32_t year, std::int32_t month) const { return year_ == year && month_ == month; }
+
+    /// Whether a day (1 to 31) is a holiday.
+    bool IsMarked(std::int32_t day);
+    /// The name of a day (1 to 31), empty when it has none.
+    const std::string& Name(std::int32_t day);
+
+    void BuildFrom(const std::shared_ptr<const RuleSnapshot>& source, std::int32_t year, std::int32_t month);
+    /// From the dates that the rules show now.
+    void BuildFrom(const Holidays& rules, std::int32_t year, std::int32_t month);
+
+private:
+    void Begin(std::int32_t year, std::int32_t month);
+    void Apply(const HolidayRule& rule, MonthDay date, const std::string& name);
+    void Fill();
+
+    std::shared_ptr<const RuleSnapshot> source_;
+    std::array<std::string, 32> names_;
+    std::uint32_t marks_ = 0; // bit n for day n
+    std::uint32_t named_ = 0; // days whose name may not be empty
+    std::int32_t year_ = 0;
+    std::int32_t month_ = 0;
+    bool filled_ = true;
+};
+
+} // namespace quillgrid

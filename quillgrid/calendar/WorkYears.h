@@ -1,0 +1,78 @@
+#pragma once
+
+#include "quillgrid/calendar/HolidayMarks.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillgrid {
+
+/// Which weekend days are work days like any other.
+struct Weekend {
+    bool Saturday = false;
+    bool Sunday = false;
+
+    std::size_t Index() const { return (Saturday ? 1U : 0U) + (Sunday ? 2U : 0U); }
+    static constexpr std::size_t Choices = 4;
+    /// Whether a day is kept free by its weekday alone.
+    bool Blocks(std::int32_t day) const {
+        const int weekday = Weekday(day);
+        return (weekday == qgdwSunday && !Sunday) || (weekday == qgdwSaturday && !Saturday);
+    }
+};
+
+/// Work days counted and found by year: a year is worked out when it is first touched and kept as one bit a
+/// day. Stretches of known years carry running counts, so the length of a span does not matter.
+class WorkYears {
+public:
+    /// `marks` must outlive this.
+    WorkYears(const HolidayMarks& marks, Weekend weekend);
+
+    /// Work days from `first` to `last`, both included and valid, `first` not after `last`.
+    std::int32_t Count(std::int32_t first, std::int32_t last);
+    /// The n-th work day after `day`, or before it for a negative n. Nothing when the calendar ends earlier;
+    /// n is not 0.
+    std::optional<std::int32_t> Step(std::int32_t day, std::int64_t n);
+
+private:
+    struct Year {
+        YearBits Work;
+        std::array<std::uint16_t, YearBits::WordCount> Before{}; ///< work days ahead of each word
+        std::uint16_t Count = 0;
+        bool Known = false;
+        std::int32_t Start = 0; ///< day number of 1 January
+        std::int32_t Rank = 0;  ///< work days ahead of the year, counted from somewhere in its stretch
+
+        std::int32_t RankOf(std::int32_t index) const;
+        std::int32_t End() const { return Rank + Count; }
+        std::int32_t DayAt(std::int32_t rank) const;
+    };
+    static constexpr std::int32_t PageSize = 32;
+    using Page = std::array<Year, PageSize>;
+    struct Stretch {
+        std::int32_t First;
+        std::int32_t Last;
+    };
+
+    Year& At(std::int32_t year) {
+        const auto place = static_cast<std::size_t>(year - FirstYear);
+        return (*pages_[place / PageSize])[place % PageSize];
+    }
+    Year& Make(std::int32_t year);
+    void WorkOut(Year& year, std::int32_t number) const;
+    Stretch StretchOf(std::int32_t first, std::int32_t last);
+    Stretch Learn(std::int32_t first, std::int32_t last);
+    std::int32_t RankThrough(std::int32_t day);
+    std::int32_t RankBefore(std::int32_t day);
+    std::int32_t YearOfRank(Stretch known, std::int32_t rank);
+
+    const HolidayMarks& marks_;
+    Weekend weekend_;
+    std::vector<std::unique_ptr<Page>> pages_;
+    std::vector<Stretch> stretches_; // in order, never touching each other
+    std::size_t recent_ = 0;
+};
+
+} // namespace quillgrid

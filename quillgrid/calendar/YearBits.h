@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+namespace quillgrid {
+
+/// One bit for each day of a year, 1 January first.
+struct YearBits {
+    static constexpr std::size_t WordCount = 6;
+    std::array<std::uint64_t, WordCount> Words{};
+
+    void Set(std::int32_t index, bool on) {
+        const std::uint64_t bit = std::uint64_t{1} << (index % 64);
+        std::uint64_t& word = Words[static_cast<std::size_t>(index) / 64];
+        word = on ? word | bit : word & ~bit;
+    }
+    /// `length` (1 to 31) bits from `first` on, which must lie within the year.
+    std::uint32_t Slice(std::int32_t first, std::int32_t length) const;
+};
+
+/// The place of the set bit of `word` that `before` (less than their count) set bits precede.
+int PlaceOfBit(std::uint64_t word, int before);
+
+/// All days of a year whose place in the week is `weekday` (0 to 6), when 1 January's is `newYear`.
+YearBits EverySeventhDay(int newYear, int weekday);
+
+} // namespace quillgrid
