@@ -161,6 +161,7 @@ TEST_F(QtWidget, PasswordsAreNeverCopied) {
     form.Press(Qt::Key_C, QStringLiteral("\x03"), Qt::ControlModifier);
     form.Press(Qt::Key_X, QStringLiteral("\x18"), Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("untouched"));
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("geheim"));
 }
 
 TEST_F(QtWidget, ComposedTextPassesTheSameFilter) {

@@ -45,6 +45,8 @@ void GridLineEdit::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return PasteGuarded();
     }
+    // What may not be copied would not be cut but lost.
+    if (event->matches(QKeySequence::Cut) && echoMode() != Normal) return event->accept();
     QLineEdit::keyPressEvent(event);
 }
 
