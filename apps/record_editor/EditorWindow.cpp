@@ -116,7 +116,8 @@ void EditorWindow::makeTools() {
         bar->addAction(tool.Action);
     }
     auto* clear = new QAction(QStringLiteral("Clear value"), this);
-    clear->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Backspace));
+    // Not with Backspace or Delete: together with Ctrl these take away a word.
+    clear->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
     connect(clear, &QAction::triggered, this, &EditorWindow::clearValue);
     addAction(clear);
     drawIcons();

@@ -137,6 +137,18 @@ TEST(EditorWindow, EscapeReturnsToTheLoadedValue) {
     EXPECT_EQ(window.File.Ask(QStringLiteral("SELECT n FROM a WHERE name = 'k1'")), QStringLiteral("1"));
 }
 
+TEST(EditorWindow, ClearingAValueLeavesTheKeysOfTheTextAlone) {
+    Window window(QStringLiteral("CREATE TABLE a (id INTEGER PRIMARY KEY, s TEXT);\n"
+                                 "INSERT INTO a VALUES (1, 'two words');\n"));
+    window.Press(Qt::Key_End);
+    window.Press(Qt::Key_Backspace, Qt::ControlModifier);
+    window.Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(window.File.Ask(QStringLiteral("SELECT s FROM a")), QStringLiteral("two"));
+    window.Press(Qt::Key_0, Qt::ControlModifier);
+    window.Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(window.File.Ask(QStringLiteral("SELECT s FROM a")), QStringLiteral("NULL"));
+}
+
 TEST(EditorWindow, NewRecordByKeys) {
     Window window(TwoRows);
     window.Press(Qt::Key_N, Qt::ControlModifier);
