@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QShowEvent>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -213,7 +214,7 @@ bool EditorWindow::openTable(const TableName& table) {
     } else {
         form_->ShowNew();
     }
-    selectFirstEditableRow();
+    if (isVisible()) selectFirstEditableRow();
     showState();
     return true;
 }
@@ -314,6 +315,12 @@ bool EditorWindow::offerToSave() {
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(!form_ || mayLeave());
+}
+
+// A form that has no size yet would scroll down to the row that is selected.
+void EditorWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (!event->spontaneous()) selectFirstEditableRow();
 }
 
 void EditorWindow::changeEvent(QEvent* event) {

@@ -149,6 +149,15 @@ TEST(EditorWindow, ClearingAValueLeavesTheKeysOfTheTextAlone) {
     EXPECT_EQ(window.File.Ask(QStringLiteral("SELECT s FROM a")), QStringLiteral("NULL"));
 }
 
+TEST(EditorWindow, LongFormsBeginAtTheTop) {
+    QStringList columns{QStringLiteral("id INTEGER PRIMARY KEY")};
+    for (int i = 0; i < 200; ++i)
+        columns << QStringLiteral("c%1 TEXT").arg(i);
+    Window window(u"CREATE TABLE a (" + columns.join(u", ") + u");\nINSERT INTO a (id) VALUES (1);\n");
+    EXPECT_EQ(window.Shown.widget().grid().CurrentRow(), 2);
+    EXPECT_EQ(window.Shown.widget().grid().FirstVisibleRow(), 1);
+}
+
 TEST(EditorWindow, NewRecordByKeys) {
     Window window(TwoRows);
     window.Press(Qt::Key_N, Qt::ControlModifier);
