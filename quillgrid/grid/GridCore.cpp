@@ -33,8 +33,11 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
 }
 
 void GridCore::Terminate() {
-    State.Terminated = true;
+    if (State.Terminated) return;
     Events.Terminate();
+    State.CommitBusy = true; // a focus that moves now takes nothing over
+    Seat.Hide();
+    State.Terminated = true;
     ImageList.SetSource(nullptr);
     State.Working = nullptr;
     State.Current.reset();

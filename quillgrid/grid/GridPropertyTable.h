@@ -134,19 +134,12 @@ consteval std::array<std::uint8_t, Count> Order(const std::array<std::string_vie
     return order;
 }
 
-template <auto Member>
-consteval std::size_t RowOf() {
-    for (std::size_t row = 0; row < Table.size(); ++row) {
-        if (Table[row].Field.Read == ReadField<Member>) return row;
-    }
-    throw "no property has this field";
-}
-
 } // namespace detail
 
-/// The property that is kept in a field.
-template <auto Member>
-inline constexpr const GridProperty& PropertyOf = detail::Table[detail::RowOf<Member>()];
+/// The property of a name, found by the compiler; an unknown name does not compile.
+consteval const GridProperty& PropertyNamed(std::string_view name) {
+    return detail::Table[*detail::Names.Find(name)];
+}
 
 /// How many sample cells come first, since the cells are made from it; the calendar last.
 inline constexpr auto ReadOrder = detail::Order<54>({"CellCount",

@@ -78,7 +78,7 @@ void PropertySetter::Translate() {
 
 void PropertySetter::AmbientChanged(std::string_view name) {
     if (!EqualIgnoreCase(name, "ScaleUnits")) return;
-    Report(PropertyOf<&GridSettings::LabelWidth>.BagKey());
+    Report(PropertyNamed("LabelWidth").BagKey());
     refresher_.Refresh();
 }
 

@@ -57,7 +57,7 @@ void PropertySheets::WriteGrid(const std::string& name, Variant& value) {
 /// The sheet has no way to read AutoHolidays: it gives what was written through it last.
 void PropertySheets::ReadGrid(const std::string& name, Variant& value) {
     const auto* property = FindGridProperty(name);
-    if (property && property != &PropertyOf<&GridSettings::AutoHolidays>) value = setter_.Get(*property);
+    if (property && property != &PropertyNamed("AutoHolidays")) value = setter_.Get(*property);
 }
 
 void PropertySheets::WriteCell(const std::string& name, Variant& value) {

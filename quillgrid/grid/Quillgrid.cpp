@@ -58,7 +58,8 @@ std::shared_ptr<class Cell> Quillgrid::Add(const CellArguments& arguments) {
 }
 
 void Quillgrid::AddGroup(const GroupArguments& arguments) {
-    core_->Groups.Add(arguments);
+    const Core core = core_;
+    core->Groups.Add(arguments);
 }
 
 class Cells& Quillgrid::Cells() {
@@ -104,8 +105,9 @@ std::string Quillgrid::CurrentGroup() const {
 }
 
 void Quillgrid::Clear() {
-    core_->Cells.Clear();
-    core_->Groups.Clear();
+    const Core core = core_;
+    core->Cells.Clear();
+    core->Groups.Clear();
 }
 
 void Quillgrid::Refresh() {
@@ -157,11 +159,13 @@ std::string Quillgrid::ErrorMessage(std::int32_t errorCode) const {
 }
 
 void Quillgrid::LoadRecord(const Record& record) {
-    core_->Records.LoadRecord(record);
+    const Core core = core_;
+    core->Records.LoadRecord(record);
 }
 
 void Quillgrid::AddNew() {
-    core_->Records.AddNew();
+    const Core core = core_;
+    core->Records.AddNew();
 }
 
 bool Quillgrid::CommitEdit() {

@@ -5,7 +5,7 @@
 namespace quillgrid {
 
 void RecordBinding::LoadRecord(const Record& record) {
-    state_.Silent = true;
+    const FlagGuard silent(state_.Silent, true, false);
     for (const auto& cell : cells_) {
         if (cell->Key().empty()) continue;
         if (auto value = record.Field(cell->Key())) CellAccess::LoadValue(*cell, std::move(*value));
@@ -14,7 +14,7 @@ void RecordBinding::LoadRecord(const Record& record) {
 }
 
 void RecordBinding::AddNew() {
-    state_.Silent = true;
+    const FlagGuard silent(state_.Silent, true, false);
     for (const auto& cell : cells_) {
         CellAccess::LoadValue(*cell, cell->Default());
         CellAccess::SetChanged(*cell, false);
@@ -24,7 +24,6 @@ void RecordBinding::AddNew() {
 
 /// What was typed belonged to the values before, so the edit box must not bring it into the new ones.
 void RecordBinding::ShowNewValues() {
-    state_.Silent = false;
     seat_.Refill();
     repaint_.Rows();
 }
