@@ -19,6 +19,9 @@
 namespace quillgrid::editor {
 namespace {
 
+constexpr qsizetype LongestMessage = 500;
+constexpr int LongestTableName = 24; ///< in the chooser, characters
+
 EditorWindow::Answer AskInABox(QWidget* parent) {
     const auto button = QMessageBox::question(parent, QStringLiteral("Unsaved changes"),
                                               QStringLiteral("This record was changed. Save the changes?"),
@@ -45,9 +48,21 @@ FormSettings SettingsFor(const QLocale& locale) {
     return settings;
 }
 
+/// What a label says must not decide how wide the window is: names and messages come from the database.
+void KeepNarrow(QLabel* label) {
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(label->wordWrap());
+    label->setSizePolicy(policy);
+}
+
+QString Shortened(const QString& text) {
+    return text.size() > LongestMessage ? QString(text.left(LongestMessage) + u'…') : text;
+}
+
 QLabel* MakeLine(QWidget* parent) {
     auto* line = new QLabel(parent);
     line->setWordWrap(true);
+    KeepNarrow(line);
     line->setTextFormat(Qt::PlainText);
     line->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->setMargin(6);
@@ -145,6 +160,7 @@ void EditorWindow::makeTableChooser() {
     tableChooser_->setToolTip(QStringLiteral("Table"));
     tableChooser_->setAccessibleName(QStringLiteral("Table"));
     tableChooser_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    tableChooser_->setMaximumWidth(LongestTableName * fontMetrics().averageCharWidth());
     for (const TableName& table : tables_)
         tableChooser_->addItem(table.Shown);
     connect(tableChooser_, &QComboBox::activated, this, &EditorWindow::chooseTable);
@@ -169,6 +185,7 @@ void EditorWindow::makeLines() {
     setCentralWidget(centre);
     status_ = new QLabel(this);
     status_->setTextFormat(Qt::PlainText);
+    KeepNarrow(status_);
     status_->setIndent(4);
     statusBar()->addWidget(status_, 1);
 }
@@ -346,7 +363,7 @@ void EditorWindow::showResult(const Outcome<Done>& result, const QString& introd
 }
 
 void EditorWindow::showMessage(const QString& text, bool isError) {
-    message_->setText(text);
+    message_->setText(Shortened(text));
     Tint(message_, isError ? ErrorTint : HintTint);
     message_->setVisible(!text.isEmpty());
 }

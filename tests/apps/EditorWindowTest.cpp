@@ -158,6 +158,24 @@ TEST(EditorWindow, LongFormsBeginAtTheTop) {
     EXPECT_EQ(window.Shown.widget().grid().FirstVisibleRow(), 1);
 }
 
+TEST(EditorWindow, NothingInTheDatabaseStretchesTheWindow) {
+    const QString endless(3000, u'W');
+    Window window(u"CREATE TABLE a (id INTEGER PRIMARY KEY, s TEXT);\n"
+                  "INSERT INTO a VALUES (1, 'x');\n"
+                  "CREATE TRIGGER refuse BEFORE UPDATE ON a BEGIN SELECT RAISE(ABORT, '" +
+                  endless + u"'); END;\nCREATE TABLE " + endless + u" (id INTEGER PRIMARY KEY);\n");
+    window.Shown.resize(560, 640);
+    window.Type(QStringLiteral("y"));
+    window.Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(window.Shown.message().contains(QStringLiteral("WWW")));
+    EXPECT_LT(window.Shown.message().size(), 1000);
+    window.Reply = Answer::Discard;
+    window.Shown.openTable(window.Tables.last());
+    QApplication::processEvents();
+    EXPECT_EQ(window.Shown.size(), QSize(560, 640));
+    EXPECT_TRUE(window.Shown.findChild<QComboBox*>()->isVisible());
+}
+
 TEST(EditorWindow, NewRecordByKeys) {
     Window window(TwoRows);
     window.Press(Qt::Key_N, Qt::ControlModifier);
