@@ -255,25 +255,34 @@ void EditorWindow::chooseTable(int index) {
 }
 
 void EditorWindow::goFirst() {
-    goTo(0);
+    walk(0, 1);
 }
 
 void EditorWindow::goPrevious() {
     if (!form_) return;
-    goTo(form_->IsNew() ? form_->Count() - 1 : form_->Position() - 1);
+    walk(form_->IsNew() ? form_->Count() - 1 : form_->Position() - 1, -1);
 }
 
 void EditorWindow::goNext() {
-    if (form_ && !form_->IsNew()) goTo(form_->Position() + 1);
+    if (form_ && !form_->IsNew()) walk(form_->Position() + 1, 1);
 }
 
 void EditorWindow::goLast() {
-    if (form_) goTo(form_->Count() - 1);
+    if (form_) walk(form_->Count() - 1, -1);
 }
 
 void EditorWindow::goTo(qsizetype position) {
-    if (!form_ || position < 0 || position >= form_->Count() || !mayLeave()) return;
-    showResult(form_->Show(position));
+    walk(position, 0);
+}
+
+/// Records that were deleted meanwhile are passed over, or nobody would get beyond them.
+void EditorWindow::walk(qsizetype position, qsizetype step) {
+    const auto isThere = [this](qsizetype one) { return one >= 0 && one < form_->Count(); };
+    if (!form_ || !isThere(position) || !mayLeave()) return;
+    auto shown = form_->Show(position);
+    while (step != 0 && shown.Message() == RecordStore::GoneMessage() && isThere(position += step))
+        shown = form_->Show(position);
+    showResult(shown);
     showState();
 }
 

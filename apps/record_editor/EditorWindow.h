@@ -71,6 +71,7 @@ private:
     void connectGrid();
     void checkTyped(quillgrid::Cell* cell, bool* cancel);
     void showHint(quillgrid::Cell* cell);
+    void walk(qsizetype position, qsizetype step);
     bool mayLeave();
     bool offerToSave();
     void chooseTable(int index);

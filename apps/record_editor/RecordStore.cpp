@@ -8,8 +8,6 @@
 namespace quillgrid::editor {
 namespace {
 
-const QString GoneMessage = QStringLiteral("The record was deleted by someone else, or its key was changed.");
-
 bool IsSecret(const Column& column) {
     return std::any_of(column.Types.begin(), column.Types.end(), [](const QString& declared) {
         return ColumnType(declared).Template() == qgctPassword;
@@ -22,11 +20,19 @@ QString ChangedMessage(const Column& column, const FieldValue& now) {
         .arg(column.Name, IsSecret(column) ? QString() : holds);
 }
 
+QString Reason(const QSqlQuery& rows) {
+    return rows.lastError().isValid() ? Database::Explain(rows.lastError()) : RecordStore::GoneMessage();
+}
+
 QString Placeholders(qsizetype count) {
     return QStringList(count, QStringLiteral("?")).join(u", ");
 }
 
 } // namespace
+
+QString RecordStore::GoneMessage() {
+    return QStringLiteral("The record was deleted by someone else, or its key was changed.");
+}
 
 bool RecordStore::CanWrite() const {
     return schema_.HasKey() && !schema_.Name.IsView && !database_.IsReadOnly();
@@ -106,7 +112,7 @@ Outcome<QList<FieldValue>> RecordStore::Read(qsizetype position) const {
                                  : database_.Run(select + u" LIMIT 1 OFFSET " + QString::number(position));
     if (!rows) return rows.Reason();
     if (!rows->next()) {
-        return Failure{rows->lastError().isValid() ? Database::Explain(rows->lastError()) : GoneMessage};
+        return Failure{Reason(*rows)};
     }
     QList<FieldValue> values;
     for (int i = 0; i < columns.size(); ++i) {
@@ -123,7 +129,7 @@ Outcome<Done> RecordStore::CheckUnchanged(qsizetype position, const QList<FieldC
         SelectColumns(columns) + u" WHERE " + KeyMatches() + database_.Dialect().Locking(), keys_[position]);
     if (!rows) return rows.Reason();
     if (!rows->next()) {
-        return Failure{rows->lastError().isValid() ? Database::Explain(rows->lastError()) : GoneMessage};
+        return Failure{Reason(*rows)};
     }
     for (int i = 0; i < changes.size(); ++i) {
         const auto now = FieldValue::FromQuery(rows->value(2 * i).toString(), rows->value(2 * i + 1));

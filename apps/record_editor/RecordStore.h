@@ -35,6 +35,9 @@ public:
     bool IsTruncated() const { return truncated_; }
     bool CanWrite() const;
 
+    /// What a read says where the row of the key is no longer there.
+    static QString GoneMessage();
+
     /// The row at a position 0 to Count() - 1, in the order of the schema's columns.
     Outcome<QList<FieldValue>> Read(qsizetype position) const;
 

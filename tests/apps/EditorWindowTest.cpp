@@ -176,6 +176,24 @@ TEST(EditorWindow, NothingInTheDatabaseStretchesTheWindow) {
     EXPECT_TRUE(window.Shown.findChild<QComboBox*>()->isVisible());
 }
 
+TEST(EditorWindow, WalksPastRecordsThatAreGone) {
+    Window window(
+        QStringLiteral("CREATE TABLE a (id INTEGER PRIMARY KEY, s TEXT);\n"
+                       "INSERT INTO a VALUES (1, 'r1'), (2, 'r2'), (3, 'r3'), (4, 'r4'), (5, 'r5');\n"));
+    const auto shown = [&] { return window.Shown.widget().grid().Cells().Item("s")->Text(); };
+    window.File.Execute(QStringLiteral("DELETE FROM a WHERE id IN (2, 3, 5)"));
+    window.Shown.goNext();
+    EXPECT_EQ(shown(), "r4");
+    window.Shown.goNext();
+    EXPECT_EQ(shown(), "r4") << "none is left behind it";
+    EXPECT_TRUE(window.Shown.message().contains(QStringLiteral("deleted")));
+    window.Shown.goPrevious();
+    EXPECT_EQ(shown(), "r1");
+    EXPECT_TRUE(window.Shown.message().isEmpty());
+    window.Shown.goLast();
+    EXPECT_EQ(shown(), "r4");
+}
+
 TEST(EditorWindow, NewRecordByKeys) {
     Window window(TwoRows);
     window.Press(Qt::Key_N, Qt::ControlModifier);
