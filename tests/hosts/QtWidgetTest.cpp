@@ -142,6 +142,20 @@ TEST_F(QtWidget, LongTextIsPastedWithoutAPause) {
     EXPECT_EQ(form.Edit()->text().size(), 15'002);
 }
 
+TEST_F(QtWidget, LongTextPassesThroughTheBoxUncut) {
+    const std::string longText(50'000, 'a');
+    form.Grid().Cells().Item("name")->SetMaxLength(100'000);
+    form.Grid().Cells().Item("name")->SetValue(Variant(longText));
+    GoTo(1);
+    form.Press(Qt::Key_Down);
+    EXPECT_EQ(TextOf(1).size(), longText.size());
+    form.Press(Qt::Key_Up);
+    form.Press(Qt::Key_End);
+    form.Type(QStringLiteral("b"));
+    form.Enter();
+    EXPECT_EQ(TextOf(1), longText + "b");
+}
+
 TEST_F(QtWidget, PastedTextPassesTheFilterAndLimitsOfItsCell) {
     form.Grid().Cells().Item("name")->SetCharlist("abc");
     form.Grid().Cells().Item("name")->SetMaxLength(4);

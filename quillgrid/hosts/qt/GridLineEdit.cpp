@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QRegularExpression>
 
+#include <limits>
+
 namespace quillgrid::qt {
 
 namespace {
@@ -24,7 +26,9 @@ QString OneLine(const QString& text) {
 
 GridLineEdit::GridLineEdit(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
-    setAcceptDrops(false); // a drop would pass the gate by
+    setMaxLength(
+        std::numeric_limits<int>::max()); // the cell sets the limit; Qt's own would cut what it holds
+    setAcceptDrops(false);                // a drop would pass the gate by
     setFocusPolicy(Qt::StrongFocus);
 }
 
