@@ -10,13 +10,14 @@ HolidayBook::~HolidayBook() {
 
 /// The rules may outlive this: they keep the dates that they would show.
 void HolidayBook::Release() {
-    if (Link().Pending == this) Link().Settle();
+    if (link_->Pending == this) link_->Settle();
 }
 
 void HolidayBook::SetRules(std::shared_ptr<Holidays> rules) {
     if (rules == rules_) return;
     Release();
     rules_ = rules ? std::move(rules) : std::make_shared<Holidays>();
+    link_ = &HolidaysAccess::Link(*rules_);
     current_ = nullptr;
     resolved_ = nullptr;
 }
@@ -27,17 +28,10 @@ void HolidayBook::SetUserDay(std::size_t which, std::int32_t day) {
     current_ = nullptr;
 }
 
-const std::shared_ptr<const RuleSnapshot>& HolidayBook::Current() {
-    if (current_ && currentRevision_ == Link().Revision) return current_;
+void HolidayBook::TakeSnapshot() {
     const auto& before = current_ ? current_ : resolved_;
     current_ = RuleSnapshot::Of(*rules_, user_, before.get());
-    currentRevision_ = Link().Revision;
-    return current_;
-}
-
-/// Whether the rules still show what the last resolution gave them.
-bool HolidayBook::IsUntouched() const {
-    return resolved_ && resolvedRevision_ == Link().Revision && resolution_ == Link().Resolutions;
+    currentRevision_ = link_->Revision;
 }
 
 void HolidayBook::ResolveYear(std::int32_t year) {
@@ -45,9 +39,9 @@ void HolidayBook::ResolveYear(std::int32_t year) {
     if (year == year_ && resolved_ == current && IsUntouched()) return;
     if (resolved_ != current) resolved_ = current;
     year_ = year;
-    resolvedRevision_ = Link().Revision;
-    resolution_ = ++Link().Resolutions;
-    Link().Pending = this;
+    resolvedRevision_ = link_->Revision;
+    resolution_ = ++link_->Resolutions;
+    link_->Pending = this;
 }
 
 void HolidayBook::SettleRules() {
@@ -61,7 +55,7 @@ void HolidayBook::Build(std::int32_t month) {
     if (IsUntouched()) {
         table_.BuildFrom(resolved_, year_, month);
     } else {
-        Link().Settle();
+        link_->Settle();
         table_.BuildFrom(*rules_, year_, month);
     }
 }
@@ -85,13 +79,9 @@ void HolidayBook::Visit(CivilDate date) {
 }
 
 bool HolidayBook::IsHoliday(std::int32_t day) {
-    const CivilDate date = PartsFromDay(day);
+    const CivilDate date = DateOf(day);
     Visit(date);
     return table_.IsMarked(date.Day);
-}
-
-bool HolidayBook::IsUniform() {
-    return IsUntouched() && Current() == resolved_;
 }
 
 } // namespace quillgrid

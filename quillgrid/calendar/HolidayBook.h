@@ -38,19 +38,26 @@ public:
 
     /// Whether the resolved year, and with it the table, stands as a fresh resolution would leave it, so that
     /// the known years give what going from day to day would give.
-    bool IsUniform();
+    bool IsUniform() { return IsUntouched() && Current() == resolved_; }
     WorkYears& Years(Weekend weekend) { return Current()->Known->Years(weekend); }
 
 private:
-    const std::shared_ptr<const RuleSnapshot>& Current();
-    bool IsUntouched() const;
+    const std::shared_ptr<const RuleSnapshot>& Current() {
+        if (!current_ || currentRevision_ != link_->Revision) TakeSnapshot();
+        return current_;
+    }
+    /// Whether the rules still show what the last resolution gave them.
+    bool IsUntouched() const {
+        return resolved_ && resolvedRevision_ == link_->Revision && resolution_ == link_->Resolutions;
+    }
+    void TakeSnapshot();
     void ResolveYear(std::int32_t year);
-    RuleLink& Link() const { return HolidaysAccess::Link(*rules_); }
     void Build(std::int32_t month);
     void Release();
     void SettleRules() override;
 
     std::shared_ptr<Holidays> rules_ = std::make_shared<Holidays>();
+    RuleLink* link_ = &HolidaysAccess::Link(*rules_);
     UserDays user_{};
     std::shared_ptr<const RuleSnapshot> current_;
     std::uint64_t currentRevision_ = 0;

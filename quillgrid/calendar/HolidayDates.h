@@ -48,6 +48,24 @@ constexpr std::int32_t DaysBeforeMonth(std::int32_t year, std::int32_t month) {
     return days[month - 1] + (month > 2 && IsLeapYear(year) ? 1 : 0);
 }
 
+constexpr std::int32_t DayOf(YearDay place) {
+    return NewYear(place.Year) + place.Index;
+}
+
+/// Month and day of a day of a year: with February counted as 30 days long, months begin along a straight
+/// line.
+constexpr CivilDate DateOf(YearDay place) {
+    const std::int32_t daysToMarch = IsLeapYear(place.Year) ? 60 : 59;
+    const std::int32_t straight = place.Index + (place.Index < daysToMarch ? 0 : 61 - daysToMarch);
+    const std::int32_t month = (12 * straight + 373) / 367;
+    return {place.Year, month, place.Index - DaysBeforeMonth(place.Year, month) + 1};
+}
+
+/// The parts of a valid day.
+constexpr CivilDate DateOf(std::int32_t day) {
+    return DateOf(YearDayOf(day));
+}
+
 /// The valid day nearest to any number.
 constexpr std::int32_t NearestValidDay(std::int32_t day) {
     return day < FirstDay ? FirstDay : day > LastDay ? LastDay : day;

@@ -6,7 +6,7 @@ namespace {
 
 MonthDay MonthDayOf(std::int32_t day) {
     if (!IsValidDay(day)) return {};
-    const CivilDate date = PartsFromDay(day);
+    const CivilDate date = DateOf(day);
     return {static_cast<std::int16_t>(date.Month), static_cast<std::int16_t>(date.Day)};
 }
 

@@ -17,15 +17,6 @@ const std::string& MonthTable::Name(std::int32_t day) {
     return names_[day >= 1 && day <= 31 ? static_cast<std::size_t>(day) : 0];
 }
 
-void MonthTable::BuildFrom(const std::shared_ptr<const RuleSnapshot>& source, std::int32_t year,
-                           std::int32_t month) {
-    if (source_ == source && IsOf(year, month)) return;
-    if (source_ != source) source_ = source;
-    year_ = year;
-    month_ = month;
-    filled_ = false;
-}
-
 void MonthTable::BuildFrom(const Holidays& rules, std::int32_t year, std::int32_t month) {
     source_ = nullptr;
     filled_ = true;

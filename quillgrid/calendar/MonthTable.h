@@ -22,7 +22,13 @@ public:
     /// The name of a day (1 to 31), empty when it has none.
     const std::string& Name(std::int32_t day);
 
-    void BuildFrom(const std::shared_ptr<const RuleSnapshot>& source, std::int32_t year, std::int32_t month);
+    void BuildFrom(const std::shared_ptr<const RuleSnapshot>& source, std::int32_t year, std::int32_t month) {
+        if (source_ == source && IsOf(year, month)) return;
+        if (source_ != source) source_ = source;
+        year_ = year;
+        month_ = month;
+        filled_ = false;
+    }
     /// From the dates that the rules show now.
     void BuildFrom(const Holidays& rules, std::int32_t year, std::int32_t month);
 

@@ -18,14 +18,14 @@ std::int32_t WorkCalendar::Limited(std::int32_t day) const {
 }
 
 MonthTable& WorkCalendar::ResolveHolidays(DateTime date) {
-    const CivilDate parts = PartsFromDay(NearestValidDay(date.Day));
+    const CivilDate parts = DateOf(NearestValidDay(date.Day));
     book_.Resolve(parts.Year, parts.Month);
     return book_.Table();
 }
 
 /// Other questions have left the rules at another year or month.
 void WorkCalendar::ShowCurrentMonth() {
-    const CivilDate parts = PartsFromDay(CurrentDay());
+    const CivilDate parts = DateOf(CurrentDay());
     book_.Show(parts.Year, parts.Month);
 }
 
@@ -51,12 +51,13 @@ std::int32_t WorkCalendar::WorkDayDiff(DateTime date1, DateTime date2) {
 }
 
 std::int32_t WorkCalendar::CountWorkDays(std::int32_t first, std::int32_t last) {
-    if (settings_.Work.Holiday) return noHolidays_.Years(WorkWeekend()).Count(first, last);
+    const YearDay end = YearDayOf(last);
+    if (settings_.Work.Holiday) return noHolidays_.Years(WorkWeekend()).Count(YearDayOf(first), end);
     std::int32_t count = 0;
     // Day by day only until the next year, at the latest, has brought the rules up to date.
     for (; first <= last && !book_.IsUniform(); ++first)
         count += IsBlocked(first, settings_.Work) ? 0 : 1;
-    return first <= last ? count + book_.Years(WorkWeekend()).Count(first, last) : count;
+    return first <= last ? count + book_.Years(WorkWeekend()).Count(YearDayOf(first), end) : count;
 }
 
 DateTime WorkCalendar::WorkDayAdd(DateTime date1, std::int32_t days) {
@@ -67,7 +68,10 @@ DateTime WorkCalendar::WorkDayAdd(DateTime date1, std::int32_t days) {
 std::int32_t WorkCalendar::StepWorkDays(std::int32_t day, std::int64_t n) {
     const std::int32_t direction = n > 0 ? 1 : -1;
     const std::int32_t limit = n > 0 ? LastDay : FirstDay;
-    if (settings_.Work.Holiday) return noHolidays_.Years(WorkWeekend()).Step(day, n).value_or(limit);
+    if (settings_.Work.Holiday) {
+        const auto found = noHolidays_.Years(WorkWeekend()).Step(YearDayOf(day), n);
+        return found ? DayOf(*found) : limit;
+    }
     while (!book_.IsUniform()) {
         if (day == limit) return limit;
         day += direction;
@@ -79,17 +83,17 @@ std::int32_t WorkCalendar::StepWorkDays(std::int32_t day, std::int64_t n) {
 
 /// Leaves the rules at the last day that going day by day would have asked about.
 std::int32_t WorkCalendar::StepKnownDays(std::int32_t day, std::int64_t n) {
-    const auto found = book_.Years(WorkWeekend()).Step(day, n);
+    const auto found = book_.Years(WorkWeekend()).Step(YearDayOf(day), n);
     if (found) {
-        book_.Visit(PartsFromDay(*found));
-        return *found;
+        book_.Visit(DateOf(*found));
+        return DayOf(*found);
     }
     const std::int32_t direction = n > 0 ? 1 : -1;
     const std::int32_t limit = n > 0 ? LastDay : FirstDay;
     std::int32_t asked = limit;
     while (asked != day && WorkWeekend().Blocks(asked))
         asked -= direction;
-    if (asked != day) book_.Visit(PartsFromDay(asked));
+    if (asked != day) book_.Visit(DateOf(asked));
     return limit;
 }
 
@@ -99,7 +103,7 @@ DateSearch WorkCalendar::SearchAllowed() {
 
 DateTime WorkCalendar::FirstOfMonth(DateTime date) {
     const std::int32_t day = date == DateTime{} ? CurrentDay() : NearestValidDay(date.Day);
-    const std::int32_t start = day - PartsFromDay(day).Day + 1;
+    const std::int32_t start = day - DateOf(day).Day + 1;
     const auto found = SearchAllowed().ByDays(start, 1);
     ShowCurrentMonth();
     return {found ? *found : Limited(start)};
@@ -107,7 +111,7 @@ DateTime WorkCalendar::FirstOfMonth(DateTime date) {
 
 DateTime WorkCalendar::LastOfMonth(DateTime date) {
     const std::int32_t day = date == DateTime{} ? CurrentDay() : NearestValidDay(date.Day);
-    const CivilDate parts = PartsFromDay(day);
+    const CivilDate parts = DateOf(day);
     const std::int32_t start = day - parts.Day + DaysInMonth(parts.Year, parts.Month);
     const auto found = SearchAllowed().ByDays(start, -1);
     ShowCurrentMonth();
@@ -116,7 +120,7 @@ DateTime WorkCalendar::LastOfMonth(DateTime date) {
 
 std::string WorkCalendar::Dayname(DateTime date) {
     const std::int32_t day = date == DateTime{} ? CurrentDay() : NearestValidDay(date.Day);
-    const CivilDate parts = PartsFromDay(day);
+    const CivilDate parts = DateOf(day);
     book_.Show(parts.Year, parts.Month);
     const std::string& name = book_.Table().Name(parts.Day);
     if (!name.empty()) return name;

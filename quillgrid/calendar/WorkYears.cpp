@@ -1,29 +1,15 @@
 #include "quillgrid/calendar/WorkYears.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace quillgrid {
 
-namespace {
-
-constexpr std::uint64_t BitsBelow(std::int32_t place) {
-    return (std::uint64_t{1} << place) - 1;
-}
-
-} // namespace
-
-std::int32_t WorkYears::Year::RankOf(std::int32_t index) const {
-    const auto word = static_cast<std::size_t>(index) / 64;
-    return Rank + Before[word] + std::popcount(Work.Words[word] & BitsBelow(index % 64));
-}
-
-std::int32_t WorkYears::Year::DayAt(std::int32_t rank) const {
+std::int32_t WorkYears::Year::IndexOf(std::int32_t rank) const {
     const std::int32_t inYear = rank - Rank;
-    std::size_t word = YearBits::WordCount - 1;
-    while (Before[word] > inYear)
-        --word;
-    return Start + static_cast<std::int32_t>(word) * 64 + PlaceOfBit(Work.Words[word], inYear - Before[word]);
+    std::size_t word = 0;
+    for (std::size_t later = 1; later < YearBits::WordCount; ++later)
+        word += Before[later] <= inYear ? 1U : 0U;
+    return static_cast<std::int32_t>(word) * 64 + PlaceOfBit(Work.Words[word], inYear - Before[word]);
 }
 
 WorkYears::WorkYears(const HolidayMarks& marks, Weekend weekend)
@@ -38,24 +24,23 @@ WorkYears::Year& WorkYears::Make(std::int32_t year) {
 }
 
 void WorkYears::WorkOut(Year& year, std::int32_t number) const {
-    year.Start = NewYear(number);
-    const int newYear = Weekday(year.Start);
+    const int newYear = Weekday(NewYear(number));
     const YearBits holidays = marks_.HolidaysOf(number);
     const YearBits sundays = weekend_.Sunday ? YearBits{} : EverySeventhDay(newYear, qgdwSunday);
     const YearBits saturdays = weekend_.Saturday ? YearBits{} : EverySeventhDay(newYear, qgdwSaturday);
     std::uint16_t count = 0;
     for (std::size_t i = 0; i < YearBits::WordCount; ++i) {
         std::uint64_t work = ~(holidays.Words[i] | sundays.Words[i] | saturdays.Words[i]);
-        if (i + 1 == YearBits::WordCount) work &= BitsBelow(IsLeapYear(number) ? 46 : 45);
+        if (i + 1 == YearBits::WordCount) work &= (std::uint64_t{1} << (IsLeapYear(number) ? 46 : 45)) - 1;
         year.Work.Words[i] = work;
         year.Before[i] = count;
-        count = static_cast<std::uint16_t>(count + std::popcount(work));
+        count = static_cast<std::uint16_t>(count + CountBits(work));
     }
     year.Count = count;
     year.Known = true;
 }
 
-WorkYears::Stretch WorkYears::StretchOf(std::int32_t first, std::int32_t last) {
+const WorkYears::Stretch& WorkYears::StretchOf(std::int32_t first, std::int32_t last) {
     const auto covers = [&](const Stretch& known) { return known.First <= first && last <= known.Last; };
     if (recent_ < stretches_.size() && covers(stretches_[recent_])) return stretches_[recent_];
     const auto found = std::partition_point(stretches_.begin(), stretches_.end(),
@@ -67,7 +52,7 @@ WorkYears::Stretch WorkYears::StretchOf(std::int32_t first, std::int32_t last) {
 
 /// Makes one stretch of the years asked for and of those that they touch. The longest of these keeps its
 /// counts, so however queries come, no year is counted anew often.
-WorkYears::Stretch WorkYears::Learn(std::int32_t first, std::int32_t last) {
+const WorkYears::Stretch& WorkYears::Learn(std::int32_t first, std::int32_t last) {
     const auto from = std::partition_point(stretches_.begin(), stretches_.end(),
                                            [&](const Stretch& known) { return known.Last + 1 < first; });
     const auto to = std::partition_point(from, stretches_.end(),
@@ -89,38 +74,21 @@ WorkYears::Stretch WorkYears::Learn(std::int32_t first, std::int32_t last) {
     for (std::int32_t year = kept.Last + 1; year <= joined.Last; ++year)
         Make(year).Rank = At(year - 1).End();
     recent_ = static_cast<std::size_t>(from - stretches_.begin());
-    stretches_.insert(stretches_.erase(from, to), joined);
-    return joined;
+    const std::int32_t days = At(joined.Last).End() - At(joined.First).Rank;
+    joined.YearsPerWorkDay = (joined.Last - joined.First + 1.0) / std::max(days, 1);
+    return *stretches_.insert(stretches_.erase(from, to), joined);
 }
 
-std::int32_t WorkYears::Count(std::int32_t first, std::int32_t last) {
-    const YearDay from = YearDayOf(first);
-    const YearDay to = YearDayOf(last);
-    StretchOf(from.Year, to.Year);
-    const Year& end = At(to.Year);
-    const auto isWorkDay = static_cast<std::int32_t>(
-        end.Work.Words[static_cast<std::size_t>(to.Index) / 64] >> (to.Index % 64) & 1);
-    return end.RankOf(to.Index) + isWorkDay - At(from.Year).RankOf(from.Index);
-}
-
-std::int32_t WorkYears::RankBefore(std::int32_t day) {
-    const YearDay place = YearDayOf(day);
-    return At(place.Year).RankOf(place.Index);
-}
-
-std::int32_t WorkYears::RankThrough(std::int32_t day) {
-    const YearDay place = YearDayOf(day);
-    const Year& year = At(place.Year);
-    const std::uint64_t word = year.Work.Words[static_cast<std::size_t>(place.Index) / 64];
-    return year.RankOf(place.Index) + static_cast<std::int32_t>(word >> (place.Index % 64) & 1);
+std::int32_t WorkYears::Count(YearDay first, YearDay last) {
+    StretchOf(first.Year, last.Year);
+    return At(last.Year).RankThrough(last.Index) - At(first.Year).RankBefore(first.Index);
 }
 
 /// The year of a rank that lies within a stretch. Years hold about as many work days each: the first guess is
 /// nearly always right or next to it.
 std::int32_t WorkYears::YearOfRank(Stretch known, std::int32_t rank) {
-    const std::int32_t total = At(known.Last).End() - At(known.First).Rank;
-    const std::int64_t share = std::int64_t{rank - At(known.First).Rank} * (known.Last - known.First + 1);
-    auto guess = known.First + static_cast<std::int32_t>(share / total);
+    const double share = (rank - At(known.First).Rank) * known.YearsPerWorkDay;
+    std::int32_t guess = std::min(known.First + static_cast<std::int32_t>(share), known.Last);
     for (int attempt = 0; attempt < 2; ++attempt) {
         const Year& year = At(guess);
         if (rank >= year.Rank && rank < year.End()) return guess;
@@ -136,12 +104,13 @@ std::int32_t WorkYears::YearOfRank(Stretch known, std::int32_t rank) {
     return known.First;
 }
 
-std::optional<std::int32_t> WorkYears::Step(std::int32_t day, std::int64_t n) {
-    const std::int32_t start = YearDayOf(day).Year;
-    Stretch known = StretchOf(start, start);
+std::optional<YearDay> WorkYears::Step(YearDay day, std::int64_t n) {
+    Stretch known = StretchOf(day.Year, day.Year);
     for (;;) {
         // Anew in each turn: a stretch that was joined may count from elsewhere.
-        const std::int64_t rank = n > 0 ? RankThrough(day) + n - 1 : RankBefore(day) + n;
+        const Year& start = At(day.Year);
+        const std::int64_t rank =
+            n > 0 ? start.RankThrough(day.Index) + n - 1 : start.RankBefore(day.Index) + n;
         if (rank >= At(known.Last).End()) {
             if (known.Last == LastYear) return std::nullopt;
             known = Learn(known.Last + 1, known.Last + 1);
@@ -150,7 +119,8 @@ std::optional<std::int32_t> WorkYears::Step(std::int32_t day, std::int64_t n) {
             known = Learn(known.First - 1, known.First - 1);
         } else {
             const auto target = static_cast<std::int32_t>(rank);
-            return At(YearOfRank(known, target)).DayAt(target);
+            const std::int32_t year = YearOfRank(known, target);
+            return YearDay{year, At(year).IndexOf(target)};
         }
     }
 }

@@ -30,11 +30,11 @@ public:
     /// `marks` must outlive this.
     WorkYears(const HolidayMarks& marks, Weekend weekend);
 
-    /// Work days from `first` to `last`, both included and valid, `first` not after `last`.
-    std::int32_t Count(std::int32_t first, std::int32_t last);
+    /// Work days from `first` to `last`, both included, `first` not after `last`.
+    std::int32_t Count(YearDay first, YearDay last);
     /// The n-th work day after `day`, or before it for a negative n. Nothing when the calendar ends earlier;
     /// n is not 0.
-    std::optional<std::int32_t> Step(std::int32_t day, std::int64_t n);
+    std::optional<YearDay> Step(YearDay day, std::int64_t n);
 
 private:
     struct Year {
@@ -42,18 +42,30 @@ private:
         std::array<std::uint16_t, YearBits::WordCount> Before{}; ///< work days ahead of each word
         std::uint16_t Count = 0;
         bool Known = false;
-        std::int32_t Start = 0; ///< day number of 1 January
-        std::int32_t Rank = 0;  ///< work days ahead of the year, counted from somewhere in its stretch
+        std::int32_t Rank = 0; ///< work days ahead of the year, counted from somewhere in its stretch
 
-        std::int32_t RankOf(std::int32_t index) const;
+        /// Work days ahead of a day, or up to and with it.
+        std::int32_t RankBefore(std::int32_t index) const {
+            return RankOf(index, (std::uint64_t{1} << (index % 64)) - 1);
+        }
+        std::int32_t RankThrough(std::int32_t index) const {
+            return RankOf(index, (std::uint64_t{2} << (index % 64)) - 1);
+        }
         std::int32_t End() const { return Rank + Count; }
-        std::int32_t DayAt(std::int32_t rank) const;
+        std::int32_t IndexOf(std::int32_t rank) const;
+
+    private:
+        std::int32_t RankOf(std::int32_t index, std::uint64_t counted) const {
+            const auto word = static_cast<std::size_t>(index) / 64;
+            return Rank + Before[word] + CountBits(Work.Words[word] & counted);
+        }
     };
     static constexpr std::int32_t PageSize = 32;
     using Page = std::array<Year, PageSize>;
     struct Stretch {
         std::int32_t First;
         std::int32_t Last;
+        double YearsPerWorkDay = 0.0; ///< on average
     };
 
     Year& At(std::int32_t year) {
@@ -62,10 +74,8 @@ private:
     }
     Year& Make(std::int32_t year);
     void WorkOut(Year& year, std::int32_t number) const;
-    Stretch StretchOf(std::int32_t first, std::int32_t last);
-    Stretch Learn(std::int32_t first, std::int32_t last);
-    std::int32_t RankThrough(std::int32_t day);
-    std::int32_t RankBefore(std::int32_t day);
+    const Stretch& StretchOf(std::int32_t first, std::int32_t last);
+    const Stretch& Learn(std::int32_t first, std::int32_t last);
     std::int32_t YearOfRank(Stretch known, std::int32_t rank);
 
     const HolidayMarks& marks_;

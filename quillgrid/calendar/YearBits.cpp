@@ -7,6 +7,20 @@ namespace {
 constexpr std::uint64_t LowBits = 0x0101'0101'0101'0101;
 constexpr std::uint64_t HighBits = 0x8080'8080'8080'8080;
 
+/// How many of the bytes, which must rise and stay below 128, are not above `most`.
+constexpr int BytesUpTo(std::uint64_t bytes, int most) {
+    // A byte's high bit survives where the subtraction borrows nothing.
+    const std::uint64_t notAbove =
+        ((static_cast<std::uint64_t>(most) * LowBits | HighBits) - bytes) & HighBits;
+    return static_cast<int>((notAbove >> 7) * LowBits >> 56);
+}
+
+/// The eight bits of a byte, one in each byte.
+constexpr std::uint64_t BitPerByte(std::uint64_t byte) {
+    const std::uint64_t apart = byte * LowBits & 0x8040'2010'0804'0201;
+    return (apart + ~HighBits) >> 7 & LowBits;
+}
+
 constexpr std::uint64_t EverySeventhBit(int first) {
     std::uint64_t bits = 0;
     for (int i = first; i < 64; i += 7)
@@ -17,14 +31,6 @@ constexpr std::uint64_t EverySeventhBit(int first) {
 constexpr std::uint64_t SeventhBits[] = {EverySeventhBit(0), EverySeventhBit(1), EverySeventhBit(2),
                                          EverySeventhBit(3), EverySeventhBit(4), EverySeventhBit(5),
                                          EverySeventhBit(6)};
-
-/// In each byte, how many bits are set in it and in those below.
-std::uint64_t RunningByteCounts(std::uint64_t word) {
-    std::uint64_t counts = word - ((word >> 1) & 0x5555'5555'5555'5555);
-    counts = (counts & 0x3333'3333'3333'3333) + ((counts >> 2) & 0x3333'3333'3333'3333);
-    counts = (counts + (counts >> 4)) & 0x0f0f'0f0f'0f0f'0f0f;
-    return counts * LowBits;
-}
 
 } // namespace
 
@@ -37,17 +43,11 @@ std::uint32_t YearBits::Slice(std::int32_t first, std::int32_t length) const {
 }
 
 int PlaceOfBit(std::uint64_t word, int before) {
-    const std::uint64_t counts = RunningByteCounts(word);
-    // A byte's high bit survives where its running count is not above `before`.
-    const std::uint64_t notYet =
-        ((static_cast<std::uint64_t>(before) * LowBits | HighBits) - counts) & HighBits;
-    const int byte = static_cast<int>((notYet >> 7) * LowBits >> 56);
-    const int start = byte * 8;
-    if (byte > 0) before -= static_cast<int>((counts >> (start - 8)) & 0xff);
-    std::uint64_t rest = word >> start;
-    for (; before > 0; --before)
-        rest &= rest - 1;
-    return start + std::countr_zero(rest);
+    const std::uint64_t inBytes = RunningByteCounts(word);
+    const int byte = BytesUpTo(inBytes, before);
+    const std::uint64_t bits = word >> (byte * 8) & 0xff;
+    const int ahead = static_cast<int>(inBytes << 8 >> (byte * 8) & 0xff);
+    return byte * 8 + BytesUpTo(BitPerByte(bits) * LowBits, before - ahead);
 }
 
 YearBits EverySeventhDay(int newYear, int weekday) {

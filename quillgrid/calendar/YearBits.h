@@ -7,6 +7,19 @@
 
 namespace quillgrid {
 
+/// In each byte, how many bits are set in it and in those below.
+constexpr std::uint64_t RunningByteCounts(std::uint64_t word) {
+    std::uint64_t counts = word - ((word >> 1) & 0x5555'5555'5555'5555);
+    counts = (counts & 0x3333'3333'3333'3333) + ((counts >> 2) & 0x3333'3333'3333'3333);
+    counts = (counts + (counts >> 4)) & 0x0f0f'0f0f'0f0f'0f0f;
+    return counts * 0x0101'0101'0101'0101;
+}
+
+/// As std::popcount, which is a call where the compiler may not use the machine's own instruction.
+constexpr std::int32_t CountBits(std::uint64_t word) {
+    return static_cast<std::int32_t>(RunningByteCounts(word) >> 56);
+}
+
 /// One bit for each day of a year, 1 January first.
 struct YearBits {
     static constexpr std::size_t WordCount = 6;

@@ -16,7 +16,7 @@ DateTime On(int year, int month, int day) {
 }
 
 /// The date that a rule of a preset shows in a year.
-DateTime DateOf(WorkCalendar& calendar, int year, const char* key) {
+DateTime ShownDate(WorkCalendar& calendar, int year, const char* key) {
     calendar.ResolveHolidays(On(year, 7, 1));
     return calendar.Holidays()->Item(key)->DateValue();
 }
@@ -53,14 +53,11 @@ TEST(HolidayDates, EasterAgreesWithAnotherRule) {
     }
 }
 
-TEST(HolidayDates, YearsOfDays) {
-    for (std::int32_t year = FirstYear; year <= LastYear; ++year) {
-        ASSERT_EQ(NewYear(year), *DayFromParts(year, 1, 1));
-        const std::int32_t end = *DayFromParts(year, 12, 31);
-        ASSERT_EQ(YearDayOf(NewYear(year)).Year, year);
-        ASSERT_EQ(YearDayOf(NewYear(year)).Index, 0);
-        ASSERT_EQ(YearDayOf(end).Year, year);
-        ASSERT_EQ(YearDayOf(end).Index, end - NewYear(year));
+TEST(HolidayDates, YearsAndDatesOfAllDays) {
+    for (std::int32_t day = FirstDay; day <= LastDay; ++day) {
+        ASSERT_EQ(DateOf(day), PartsFromDay(day)) << day;
+        ASSERT_EQ(YearDayOf(day).Year, PartsFromDay(day).Year) << day;
+        ASSERT_EQ(DayOf(YearDayOf(day)), day);
     }
 }
 
@@ -116,16 +113,17 @@ TEST(Holidays, KeepOrderAndKeys) {
 
 TEST(HolidayPresets, FallOnKnownDates) {
     WorkCalendar calendar(On(2024, 6, 3));
-    EXPECT_EQ(DateOf(calendar, 2024, "Rosenmontag"), On(2024, 2, 12));
-    EXPECT_EQ(DateOf(calendar, 2024, "Fronleichnam"), On(2024, 5, 30));
-    EXPECT_EQ(DateOf(calendar, 2024, "Erntedankfest"), On(2024, 10, 6));
-    EXPECT_EQ(DateOf(calendar, 2024, "Volkstrauertag"), On(2024, 11, 17));
-    EXPECT_EQ(DateOf(calendar, 2024, "Totensonntag"), On(2024, 11, 24));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Rosenmontag"), On(2024, 2, 12));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Fronleichnam"), On(2024, 5, 30));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Erntedankfest"), On(2024, 10, 6));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Volkstrauertag"), On(2024, 11, 17));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Totensonntag"), On(2024, 11, 24));
     calendar.SetAutoHolidays(qgahdSwitzerland);
-    EXPECT_EQ(DateOf(calendar, 2024, "Eidgenössischer Bettag"), On(2024, 9, 15));
-    EXPECT_EQ(DateOf(calendar, 2024, "Bettag-Montag"), On(2024, 9, 16));
-    EXPECT_EQ(DateOf(calendar, 2025, "Bettag-Montag"), On(2025, 9, 15)); // the third Monday, six days early
-    EXPECT_EQ(DateOf(calendar, 2025, "Eidgenössischer Bettag"), On(2025, 9, 21));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Eidgenössischer Bettag"), On(2024, 9, 15));
+    EXPECT_EQ(ShownDate(calendar, 2024, "Bettag-Montag"), On(2024, 9, 16));
+    EXPECT_EQ(ShownDate(calendar, 2025, "Bettag-Montag"),
+              On(2025, 9, 15)); // the third Monday, six days early
+    EXPECT_EQ(ShownDate(calendar, 2025, "Eidgenössischer Bettag"), On(2025, 9, 21));
 }
 
 TEST(HolidayPresets, SizesAndEnabledRules) {

@@ -58,7 +58,7 @@ TEST_F(WorkCalendarTest, DaysAndTheirNames) {
     EXPECT_EQ(calendar.Dayname({}), "Friday"); // CurrentDate
     EXPECT_EQ(WorkCalendar(On(2024, 12, 3)).Dayname({}), "Dienstag");
     EXPECT_TRUE(calendar.IsWorkDay());
-    EXPECT_FALSE(calendar.IsWorkDay(DateTime{})); // 30 December 1899 was a Saturday
+    EXPECT_FALSE(calendar.IsWorkDay(DateTime{}));  // 30 December 1899 was a Saturday
     EXPECT_EQ(calendar.Easter(), On(2024, 3, 31)); // a weekend asks no rule
     EXPECT_TRUE(calendar.IsWorkDay(DateTime{-1}));
     EXPECT_EQ(calendar.Easter(), On(1899, 4, 2));
