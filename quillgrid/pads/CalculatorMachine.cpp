@@ -134,7 +134,10 @@ CalculatorMachine::Outcome CalculatorMachine::Clear() {
 }
 
 CalculatorMachine::Outcome CalculatorMachine::Equals() {
-    if (lastAction_ == action::Equals) entries_.Operator = 0;
+    if (lastAction_ == action::Equals) { // a formula has failed half way: its operand goes with its operator
+        entries_.Operator = 0;
+        entries_.Second.clear();
+    }
     return entries_.IsPending() ? Calculate() : Outcome::Closing;
 }
 

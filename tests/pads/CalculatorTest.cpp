@@ -160,6 +160,8 @@ TEST(CalculatorTest, FormulaLanguage) {
                                  7),
               "8 bbbbbv");
     EXPECT_EQ(calculator.Formula("X/0", 7), "0/ b");
+    EXPECT_EQ(calculator.Type("="), "7 C"); // what is left of the formula goes
+    EXPECT_EQ(calculator.Type("+"), "0+");
     EXPECT_EQ(calculator.Formula("X*1", Money("123456789012.3456")), "123456789012.34 bbv");
     EXPECT_EQ(calculator.Formula("999999999999999", 7), "7 bb"); // "=" fails, then the whole
 }
