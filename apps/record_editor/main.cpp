@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace quillgrid::editor;
@@ -96,6 +97,10 @@ int Edit(std::unique_ptr<Database> database, const CommandLine& line) {
     if (!table) return Complain(table.Message());
     EditorWindow window(std::move(database), *tables);
     if (!window.openTable(*table)) return Complain(window.message());
+    if (const auto count = window.form()->Count(); line.Record > std::max<qsizetype>(count, 1)) {
+        return Complain(
+            QStringLiteral("There is no record %1; the last one is %2.").arg(line.Record).arg(count));
+    }
     window.goTo(line.Record - 1);
     window.show();
     return line.Picture.isEmpty() ? QApplication::exec() : WritePicture(window, line);

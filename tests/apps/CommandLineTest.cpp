@@ -53,6 +53,7 @@ TEST(CommandLine, EndsWithStatusTwoAndSaysWhy) {
     for (const Case& test : {Case{{missing}, "There is no file"}, Case{{garbage}, "not a database"},
                              Case{{folder.path()}, "is a folder"},
                              Case{{QStringLiteral("--table"), QStringLiteral("nope")}, "companies"},
+                             Case{{QStringLiteral("--record"), QStringLiteral("999")}, "no record 999"},
                              Case{{QStringLiteral("postgresql://127.0.0.1:1/x")}, "127.0.0.1:1"},
                              Case{{QStringLiteral("--nonsense")}, "usage:"}}) {
         const EditorRun run = RunEditor(test.Arguments);
