@@ -2,6 +2,7 @@
 
 #include "apps/record_editor/ToolIcons.h"
 
+#include "quillgrid/grid/CellRules.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
 
 #include <QAction>
@@ -237,8 +238,10 @@ bool EditorWindow::openTable(const TableName& table) {
 }
 
 void EditorWindow::selectFirstEditableRow() {
-    for (const auto& cell : widget_->grid().Cells()) {
-        if (!cell->Visible() || cell->Locked()) continue;
+    auto& grid = widget_->grid();
+    for (std::int32_t row = 1; row <= grid.RowCount(); ++row) {
+        quillgrid::Cell* cell = grid.RowCell(row);
+        if (quillgrid::IsHeading(*cell) || !quillgrid::IsEditable(*cell, grid.UserLevel())) continue;
         cell->SetFocus();
         return;
     }
@@ -398,7 +401,9 @@ void EditorWindow::showState() {
     const QString table = hasForm ? form_->TableTitle() : QString();
     status_->setText(
         QStringLiteral("%1 · %2%3").arg(place, table, modified ? QStringLiteral(" · modified") : QString()));
-    setWindowTitle(QStringLiteral("%1 – %2[*]").arg(table, database_->Description()));
+    QString title = table + u" – " + database_->Description();
+    title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // doubled, it is not the mark of a change
+    setWindowTitle(title + u"[*]");
     setWindowModified(modified);
 }
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -192,6 +193,14 @@ TEST(EditorWindow, WalksPastRecordsThatAreGone) {
     EXPECT_TRUE(window.Shown.message().isEmpty());
     window.Shown.goLast();
     EXPECT_EQ(shown(), "r4");
+}
+
+TEST(EditorWindow, TitleNamesTheTableWhateverItIsCalled) {
+    Window window(QStringLiteral("CREATE TABLE \"[*] %1 [*]\" (id INTEGER PRIMARY KEY, s TEXT);\n"));
+    EXPECT_EQ(window.Shown.windowHandle()->title(), QStringLiteral("[*] %1 [*] – test.sqlite"));
+    window.Type(QStringLiteral("x"));
+    window.Press(Qt::Key_Return);
+    EXPECT_EQ(window.Shown.windowHandle()->title(), QStringLiteral("[*] %1 [*] – test.sqlite*"));
 }
 
 TEST(EditorWindow, NewRecordByKeys) {
