@@ -25,7 +25,7 @@ protected:
         cell->Listitems().Clear();
         for (int i = 1; i <= count; ++i)
             cell->Listitems().Add({.Text = "row " + std::to_string(i), .ItemData = i * 10});
-        CellAccess::SetArea(*cell, static_cast<CellArea>(0), {0, 0, 120, 20});
+        CellAccess::SetArea(*cell, CellArea::Value, {0, 0, 120, 20});
         return cell;
     }
     std::shared_ptr<Cell> Words(std::initializer_list<const char*> words) {
