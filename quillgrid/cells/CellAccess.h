@@ -41,6 +41,7 @@ public:
     }
 
     static CellOwner* Owner(const Cell& cell) { return cell.Owner(); }
+    static const OwnerLinkReference& Link(const Cell& cell) { return cell.link_; }
     static void SetOwner(Cell& cell, OwnerLinkReference link) { cell.link_ = std::move(link); }
 
     /// Colour, bold or italic changed since the flag was last taken back.

@@ -1,5 +1,6 @@
 #include "quillgrid/cells/OwnerServices.h"
 
+#include "quillgrid/cells/CellAccess.h"
 #include "quillgrid/platform/Clock.h"
 
 #include <chrono>
@@ -56,6 +57,8 @@ SilentScope::SilentScope(OwnerLinkReference link) : link_(std::move(link)) {
 SilentScope::~SilentScope() {
     if (HasControl(link_)) link_->Owner->SetSilent(false);
 }
+
+CurrentCellScope::CurrentCellScope(Cell& cell) : CurrentCellScope(CellAccess::Link(cell), cell) {}
 
 CurrentCellScope::CurrentCellScope(OwnerLinkReference link, Cell& cell) : link_(std::move(link)) {
     if (HasControl(link_)) before_ = link_->Owner->ExchangeCurrentCell(&cell);

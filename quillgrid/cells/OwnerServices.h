@@ -31,9 +31,12 @@ private:
     OwnerLinkReference link_; // the control may go meanwhile
 };
 
-/// Makes a cell the one that the control works on while it lives.
+/// While it lives, a cell stands in for the control's current one, whether or not it has a row: what acts on
+/// the current cell, such as property sheets and `Cell::DefineFromDataDictionary`, acts on it. Rows, edit box
+/// and focus stay as they are and no event comes.
 class CurrentCellScope {
 public:
+    explicit CurrentCellScope(Cell& cell);
     CurrentCellScope(OwnerLinkReference link, Cell& cell);
     ~CurrentCellScope();
     CurrentCellScope(const CurrentCellScope&) = delete;

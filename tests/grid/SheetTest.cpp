@@ -1,5 +1,6 @@
 // Property sheets and records: the control and its cells by name.
 #include "quillgrid/cells/CellProperties.h"
+#include "quillgrid/cells/OwnerServices.h"
 #include "quillgrid/grid/GridPropertyTable.h"
 #include "quillgrid/hosts/headless/HeadlessHost.h"
 
@@ -292,6 +293,36 @@ TEST(Records, DictionaryConfiguresTheCurrentCell) {
     EXPECT_TRUE(cell->Locked());
     EXPECT_EQ(cell->Format(), "");
     EXPECT_EQ(cell->Value(), Variant(*Currency::FromDouble(12.5)));
+}
+
+TEST(Records, DictionaryConfiguresACellWithoutARowAndDisturbsNobody) {
+    HeadlessHost host;
+    Quillgrid& grid = *host.Grid;
+    const auto first = grid.Add({.Key = "first", .Caption = Variant("1")});
+    const auto hidden = grid.Add({.Key = "hidden"});
+    hidden->SetVisible(false);
+    grid.Refresh();
+    host.RecordEvents();
+    host.EnterControl();
+    host.Type("typed");
+    host.LeaveControl();
+    host.Journal.Clear();
+    {
+        const CurrentCellScope current(*hidden);
+        EXPECT_EQ(grid.Cell(), hidden.get());
+        hidden->DefineFromDataDictionary(MapRecord{{"Caption", Variant("Secret")}, {"Value", Variant("x")}});
+    }
+    EXPECT_THAT(host.Journal.Take(), IsEmpty());
+    EXPECT_EQ(grid.Cell(), first.get());
+    EXPECT_EQ(host.Focus, headless::FocusPlace::Outside);
+    EXPECT_EQ(hidden->Caption() + hidden->Text() + first->Caption() + first->Text(), "Secretx1typed");
+    {
+        const CurrentCellScope gone(*hidden);
+        grid.Cells().Remove("hidden");
+        EXPECT_EQ(grid.Cell(), first.get());
+    }
+    const CurrentCellScope outlived(*first);
+    host.Grid.reset();
 }
 
 TEST(Records, LoadOnlyWhatHasAFieldAndEndAudible) {
