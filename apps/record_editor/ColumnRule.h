@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/record_editor/ColumnDescription.h"
 #include "apps/record_editor/ColumnType.h"
 #include "apps/record_editor/FieldValue.h"
 
@@ -23,7 +24,6 @@ struct Choice {
 struct ColumnRule {
     QString Name;
     QString Caption;
-    QString ToolTip;
     CellTemplateConstants Template = qgctNone;
     ValueKind Kind = ValueKind::Text;
     Variant Min = Variant::Null(); ///< Null leaves what the template says
@@ -31,14 +31,13 @@ struct ColumnRule {
     int MaxLength = -1; ///< -1: as long as can be shown
     bool AllowEmpty = true;
     bool Locked = false;
-    bool Visible = true;
     bool NullAllowed = true;         ///< whether "nothing" is kept as NULL
     std::optional<QString> Format{}; ///< instead of the template's
-    std::optional<QString> Unit{};
-    bool HidesImage = false; ///< the template's image would promise more than the column says
+    bool HidesImage = false;         ///< the template's image would promise more than the column says
     std::optional<QString> Charlist{};
     QList<Choice> Choices;
-    FieldValue Default; ///< what the database puts into a new record, as far as it is a constant
+    FieldValue Default;              ///< what the database puts into a new record, as far as it is a constant
+    ColumnDescription Description{}; ///< refines all that is said above, except what the database demands
 };
 
 } // namespace quillgrid::editor

@@ -120,16 +120,6 @@ void ApplyFact(ColumnRule& rule, const CheckFact& fact) {
     }
 }
 
-/// A cell that knows only yes and no would show a missing answer as "no".
-void AllowNoAnswer(ColumnRule& rule, LanguageConstants language) {
-    if (rule.Kind != ValueKind::Boolean || !rule.NullAllowed) return;
-    const auto word = [&](std::int32_t number) {
-        return QString::fromStdString(LocalText(language, number));
-    };
-    rule.Choices = {{{Storage::Integer, 1, QStringLiteral("1")}, word(1), QStringLiteral("checked")},
-                    {{Storage::Integer, 0, QStringLiteral("0")}, word(2), QStringLiteral("unchecked")}};
-}
-
 void ApplyCharacters(ColumnRule& rule) {
     if (rule.Template == qgctEmail) rule.Charlist = QString::fromUtf8(EmailCharacters);
     if (rule.Template == qgctwww) rule.Charlist = QString::fromUtf8(WebCharacters);
@@ -192,6 +182,15 @@ Variant BoundFromText(const QString& text, ValueKind kind) {
     if (kind != ValueKind::Decimal) return Variant::Null();
     const auto amount = Currency::FromDouble(number);
     return amount ? Variant(*amount) : Variant::Null();
+}
+
+void AllowNoAnswer(ColumnRule& rule, LanguageConstants language) {
+    if (rule.Kind != ValueKind::Boolean || !rule.NullAllowed) return;
+    const auto word = [&](std::int32_t number) {
+        return QString::fromStdString(LocalText(language, number));
+    };
+    rule.Choices = {{{Storage::Integer, 1, QStringLiteral("1")}, word(1), QStringLiteral("checked")},
+                    {{Storage::Integer, 0, QStringLiteral("0")}, word(2), QStringLiteral("unchecked")}};
 }
 
 ColumnRule RuleForColumn(const Column& column, const TableSchema& schema, LanguageConstants language) {

@@ -14,6 +14,10 @@ QString CaptionFromName(const QString& columnName);
 /// means none.
 Variant BoundFromText(const QString& text, ValueKind kind);
 
+/// Where NULL is allowed, yes and no become entries of a list: a cell that knows only the two would show a
+/// missing answer as "no".
+void AllowNoAnswer(ColumnRule& rule, LanguageConstants language);
+
 /// What the declaration of a column says about its cell. The entries of a referenced table are still missing.
 ColumnRule RuleForColumn(const Column& column, const TableSchema& schema, LanguageConstants language);
 

@@ -1,26 +1,21 @@
 #include "apps/record_editor/DataDictionary.h"
 
-#include "apps/record_editor/ColumnRules.h"
 #include "apps/record_editor/Database.h"
 
 #include <QSqlRecord>
 
 #include <array>
+#include <optional>
 
 namespace quillgrid::editor {
 namespace {
-
-using Setter = void (*)(ColumnRule& rule, const QString& text);
-
-bool IsTrue(const QString& text) {
-    return text.compare(u"true", Qt::CaseInsensitive) == 0 || text == u"t" || text.toInt() != 0;
-}
 
 struct TemplateKind {
     CellTemplateConstants Template;
     ValueKind Kind;
 };
-constexpr std::array<TemplateKind, 12> Kinds{{
+// Those that are not here take texts.
+constexpr std::array<TemplateKind, 15> Kinds{{
     {qgctInteger, ValueKind::Integer},
     {qgctCurrency, ValueKind::Decimal},
     {qgctEuro, ValueKind::Decimal},
@@ -33,54 +28,66 @@ constexpr std::array<TemplateKind, 12> Kinds{{
     {qgctColor, ValueKind::Choice},
     {qgctSysColor, ValueKind::Choice},
     {qgctSalutation, ValueKind::Choice},
+    {qgctPrinter, ValueKind::Choice},
+    {qgctImagelist, ValueKind::Choice},
+    {qgctFont, ValueKind::Choice},
 }};
 
-void SetTemplate(ColumnRule& rule, const QString& text) {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (!isNumber || number < qgctNone || number > qgctNumber || rule.Kind == ValueKind::Unreadable) return;
-    rule.Template = static_cast<CellTemplateConstants>(number);
-    rule.Kind = ValueKind::Text;
+ValueKind KindOf(CellTemplateConstants number) {
     for (const TemplateKind& row : Kinds) {
-        if (row.Template == rule.Template) rule.Kind = row.Kind;
+        if (row.Template == number) return row.Kind;
     }
-    rule.Format.reset();
-    rule.Charlist.reset();
-    rule.Min = rule.Max = Variant::Null(); // they spoke of another kind of value
-    if (rule.Template != qgctNone && rule.Template != qgctlist) rule.Choices.clear();
+    return ValueKind::Text;
 }
 
-struct Property {
-    const char* Name;
-    Setter Set;
-};
-// The template first: the others refine it.
-constexpr std::array<Property, 13> Properties{{
-    {"template", SetTemplate},
-    {"caption", [](ColumnRule& rule, const QString& text) { rule.Caption = text; }},
-    {"tooltiptext", [](ColumnRule& rule, const QString& text) { rule.ToolTip = text; }},
-    {"min", [](ColumnRule& rule, const QString& text) { rule.Min = BoundFromText(text, rule.Kind); }},
-    {"max", [](ColumnRule& rule, const QString& text) { rule.Max = BoundFromText(text, rule.Kind); }},
-    {"maxlength", [](ColumnRule& rule, const QString& text) { rule.MaxLength = qMax(0, text.toInt()); }},
-    {"allowempty", [](ColumnRule& rule, const QString& text) { rule.AllowEmpty = IsTrue(text); }},
-    {"charlist", [](ColumnRule& rule, const QString& text) { rule.Charlist = text; }},
-    {"format", [](ColumnRule& rule, const QString& text) { rule.Format = text; }},
-    {"unit", [](ColumnRule& rule, const QString& text) { rule.Unit = text; }},
-    // What the database computes stays locked whatever the dictionary says.
-    {"locked", [](ColumnRule& rule, const QString& text) { rule.Locked = rule.Locked || IsTrue(text); }},
-    {"visible", [](ColumnRule& rule, const QString& text) { rule.Visible = IsTrue(text); }},
-    {"enabled", [](ColumnRule& rule, const QString& text) { rule.Locked = rule.Locked || !IsTrue(text); }},
-}};
+bool IsNumber(ValueKind kind) {
+    return kind == ValueKind::Integer || kind == ValueKind::Decimal || kind == ValueKind::Real;
+}
 
-QHash<QString, QString> ReadRow(const QSqlQuery& query, const QString& language) {
-    QHash<QString, QString> row;
+/// How a column's values are read and written in such a cell; nothing where the cell cannot hold them. A
+/// number keeps the kind that its column declares, whatever it is dressed up as.
+std::optional<ValueKind> KindIn(CellTemplateConstants number, ValueKind column, bool booleansAsNumbers) {
+    const ValueKind wanted = KindOf(number);
+    if (wanted == column || (IsNumber(wanted) && IsNumber(column))) return column;
+    switch (column) {
+    case ValueKind::Text: return wanted == ValueKind::Boolean ? std::nullopt : std::optional(wanted);
+    case ValueKind::Integer: {
+        const bool fits = wanted == ValueKind::Choice || (wanted == ValueKind::Boolean && booleansAsNumbers);
+        return fits ? std::optional(wanted) : std::nullopt;
+    }
+    default: return std::nullopt;
+    }
+}
+
+void ChooseTemplate(ColumnRule& rule, const QString& text, bool booleansAsNumbers) {
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < qgctNone || number > qgctNumber || rule.Template == number) return;
+    const auto wanted = static_cast<CellTemplateConstants>(number);
+    const auto kind = KindIn(wanted, rule.Kind, booleansAsNumbers);
+    if (!kind) return;
+    // Limits of the column stay as long as they speak of the same kind of value.
+    if (*kind != rule.Kind) rule.Min = rule.Max = Variant::Null();
+    rule.Template = wanted;
+    rule.Kind = *kind;
+    rule.Format.reset();
+    rule.Charlist.reset();
+    rule.HidesImage = false;
+    if (wanted != qgctNone && wanted != qgctlist) rule.Choices.clear();
+}
+
+QHash<QString, QVariant> ReadRow(const QSqlQuery& query, const QString& language) {
+    QHash<QString, QVariant> row;
+    QHash<QString, QVariant> translated;
+    const QString suffix = u'_' + language;
     const QSqlRecord fields = query.record();
     for (int i = 0; i < fields.count(); ++i) {
-        if (!query.isNull(i)) row[fields.fieldName(i).toLower()] = query.value(i).toString();
+        if (query.isNull(i)) continue;
+        const QString name = fields.fieldName(i).toLower();
+        row[name] = query.value(i);
+        if (name.endsWith(suffix)) translated[name.chopped(suffix.size())] = query.value(i);
     }
-    for (const QString& property : {QStringLiteral("caption"), QStringLiteral("tooltiptext")}) {
-        if (const QString own = property + u'_' + language; row.contains(own)) row[property] = row[own];
-    }
+    row.insert(translated);
     return row;
 }
 
@@ -93,18 +100,18 @@ Outcome<DataDictionary> DataDictionary::Read(const Database& database, const QSt
     DataDictionary dictionary;
     while (rows->next()) {
         const auto row = ReadRow(*rows, language.toLower());
-        dictionary.columns_[row.value(QStringLiteral("column_name")).toLower()] = row;
+        dictionary.columns_[row.value(QStringLiteral("column_name")).toString().toLower()] = row;
     }
     return dictionary;
 }
 
-void DataDictionary::Apply(ColumnRule& rule) const {
+void DataDictionary::Describe(ColumnRule& rule, bool booleansAsNumbers) const {
     const auto found = columns_.constFind(rule.Name.toLower());
     if (found == columns_.constEnd()) return;
-    for (const Property& property : Properties) {
-        const auto text = found->constFind(QLatin1String(property.Name));
-        if (text != found->constEnd()) property.Set(rule, *text);
-    }
+    ChooseTemplate(rule, found->value(QStringLiteral("template")).toString(), booleansAsNumbers);
+    if (found->contains(QStringLiteral("caption")))
+        rule.Caption = found->value(QStringLiteral("caption")).toString();
+    rule.Description = ColumnDescription(*found, rule.Kind);
 }
 
 } // namespace quillgrid::editor

@@ -3,6 +3,11 @@
 #include "apps/record_editor/SqlDialect.h"
 
 #include "quillgrid/base/Text.h"
+#include "quillgrid/cells/OwnerServices.h"
+#include "quillgrid/grid/CellRules.h"
+#include "quillgrid/locale/Coercion.h"
+
+#include <algorithm>
 
 namespace quillgrid::editor {
 namespace {
@@ -33,6 +38,27 @@ QString VisibleLineBreaks(QString text) {
     return text;
 }
 
+/// How input of numbers is checked; other kinds leave that to the template.
+std::optional<ValidationRuleConstants> RuleFor(ValueKind kind) {
+    switch (kind) {
+    case ValueKind::Integer: return qgvrInteger;
+    case ValueKind::Decimal: return qgvrCurrency;
+    case ValueKind::Real: return qgvrDouble;
+    default: return std::nullopt;
+    }
+}
+
+bool MeansTheSame(ValidationRuleConstants one, ValidationRuleConstants other) {
+    return one == other || (one == qgvrCurrency && other == qgvrEuro);
+}
+
+/// False where one of the bounds is none.
+bool IsBelow(const Variant& bound, const Variant& other, const Locale& locale) {
+    const auto left = ToDouble(bound, locale);
+    const auto right = ToDouble(other, locale);
+    return left && right && *left < *right;
+}
+
 const char* KindName(ValueKind kind) {
     switch (kind) {
     case ValueKind::Integer: return "a whole number";
@@ -60,36 +86,62 @@ FieldBinding::FieldBinding(ColumnRule rule, std::shared_ptr<Cell> cell, FieldCod
 
 void FieldBinding::DefineCell(bool mayBeNothing) {
     const bool isList = !rule_.Choices.isEmpty();
+    editable_ = true;
     cell_->Clear();
+    // The group comes along: given later it would put the rows into order again for each record.
     cell_->Define({.NewCaption = Variant(rule_.Caption.toStdString()),
-                   .NewCellTemplate = isList ? qgctlist : rule_.Template});
+                   .NewCellTemplate = isList ? qgctlist : rule_.Template,
+                   .NewGroup = Group()});
     if (isList) FillList();
     // Without such an entry a list cannot show "nothing", nor be set back to it.
     if (mayBeNothing && IsList()) cell_->Listitems().Add({.Text = "", .ItemData = Variant("")});
+    DefineKind();
+    cell_->SetAllowEmpty(rule_.AllowEmpty);
+    Describe(rule_.Description);
+}
+
+void FieldBinding::DefineKind() {
+    if (const auto rule = RuleFor(rule_.Kind); rule && !MeansTheSame(*rule, cell_->ValidationRule()))
+        cell_->SetValidationRule(*rule);
     if (!rule_.Min.IsNull()) cell_->SetMin(rule_.Min);
     if (!rule_.Max.IsNull()) cell_->SetMax(rule_.Max);
-    if (rule_.Kind == ValueKind::Text) {
-        cell_->SetMaxLength(rule_.MaxLength >= 0 ? rule_.MaxLength : SqlDialect::LongestText);
-    }
+    if (rule_.Kind == ValueKind::Text) cell_->SetMaxLength(LongestText());
     if (rule_.Format) cell_->SetFormat(rule_.Format->toStdString());
     if (rule_.HidesImage) cell_->SetListImage(Variant::Null());
     if (IsForeignEuro()) cell_->SetFormat("Standard");
-    if (rule_.Unit) cell_->SetUnit(rule_.Unit->toStdString());
     if (rule_.Charlist) cell_->SetCharlist(rule_.Charlist->toStdString());
-    cell_->SetAllowEmpty(rule_.AllowEmpty);
-    Lock(rule_.Locked || readOnly_);
-    cell_->SetVisible(rule_.Visible);
-    cell_->SetTooltipText(rule_.ToolTip.toStdString());
+}
+
+std::int32_t FieldBinding::LongestText() const {
+    return rule_.MaxLength >= 0 ? rule_.MaxLength : SqlDialect::LongestText;
+}
+
+std::string FieldBinding::Group() const {
+    return rule_.Description.Text(QStringLiteral("group")).toStdString();
+}
+
+void FieldBinding::Describe(const ColumnDescription& description) {
+    {
+        const CurrentCellScope current(*cell_);
+        cell_->DefineFromDataDictionary(description);
+    }
+    KeepDemands();
+    if (cell_->Locked() && !description.Has(QStringLiteral("forecolor"))) cell_->SetForeColor(ColourGreyText);
+}
+
+/// What the database demands holds whatever the dictionary says.
+void FieldBinding::KeepDemands() {
+    if (!IsWritten()) cell_->SetLocked(true);
+    if (!fits_) return;
+    if (!rule_.AllowEmpty) cell_->SetAllowEmpty(false);
+    if (rule_.Kind == ValueKind::Text) cell_->SetMaxLength(std::min(cell_->MaxLength(), LongestText()));
+    if (IsBelow(cell_->Min(), rule_.Min, locale_)) cell_->SetMin(rule_.Min);
+    if (IsBelow(rule_.Max, cell_->Max(), locale_)) cell_->SetMax(rule_.Max);
 }
 
 /// Where people pay in another currency, its symbol beside euros would be wrong; the unit "EUR" is not.
 bool FieldBinding::IsForeignEuro() const {
     return cell_->Template() == qgctEuro && !rule_.Format && locale_.CurrencySymbol != "€";
-}
-
-void FieldBinding::Lock(bool locked) {
-    cell_->SetLocked(locked);
-    if (locked) cell_->SetForeColor(ColourGreyText);
 }
 
 void FieldBinding::FillList() {
@@ -101,44 +153,70 @@ void FieldBinding::FillList() {
     }
 }
 
-void FieldBinding::Load(const FieldValue& value) {
-    Fill(value, rule_.NullAllowed);
+void FieldBinding::Prepare(const FieldValue& value) {
+    loaded_ = value;
+    forceNull_ = false;
+    fits_ = true;
+    DefineCell(rule_.NullAllowed);
+    prepared_ = ForCell(loaded_);
+}
+
+void FieldBinding::Take() {
+    fits_ = prepared_ && IsShownExactly(*prepared_);
+    if (!fits_) ShowAsIs();
     shown_ = baseline_ = Current();
 }
 
-void FieldBinding::Fill(const FieldValue& value, bool mayBeNothing) {
-    loaded_ = value;
+void FieldBinding::PrepareNew() {
+    loaded_ = rule_.Default;
     forceNull_ = false;
-    DefineCell(mayBeNothing);
-    const auto decoded = DecodeLoaded();
-    if (decoded && IsList())
-        cell_->SetValue(decoded->IsNull() ? Variant("") : *decoded);
-    else if (decoded && !decoded->IsNull())
-        cell_->SetValue(*decoded);
-    fits_ = decoded && IsShownExactly(*decoded);
-    if (!fits_) ShowAsIs();
+    fits_ = true;
+    DefineCell(true);
+    prepared_ = ForCell(rule_.Default);
+    cell_->SetDefault(StartValue());
 }
 
-std::optional<Variant> FieldBinding::DecodeLoaded() const {
-    if (rule_.Choices.isEmpty()) return FieldCodec::Decode(loaded_, rule_.Kind);
-    if (rule_.Kind != ValueKind::Boolean || loaded_.IsNull())
-        return FieldCodec::Decode(loaded_, ValueKind::Choice);
-    const auto answer = FieldCodec::Decode(loaded_, ValueKind::Boolean);
+/// The dictionary's default before the one that the database would put in itself.
+Variant FieldBinding::StartValue() {
+    const FieldValue own = rule_.Description.Default();
+    const auto described = own.IsNull() || rule_.Locked ? std::nullopt : ForCell(own);
+    hasOwnDefault_ = described.has_value();
+    Variant start = described.value_or(prepared_.value_or(Variant::Null()));
+    // A cell that knows only yes and no says no.
+    const bool isBoolean = cell_->ValidationRule() == qgvrBoolean;
+    return start.IsNull() && isBoolean ? Variant(false) : start;
+}
+
+void FieldBinding::TakeNew() {
+    const bool taken = IsShownExactly(cell_->Default());
+    if (!taken) { // a default that the cell cannot hold is none
+        DefineCell(true);
+        if (prepared_ && !prepared_->IsNull()) cell_->SetValue(*prepared_);
+    }
+    const bool own = taken && hasOwnDefault_;
+    fits_ = own || rule_.Default.IsNull() || (prepared_ && IsShownExactly(*prepared_));
+    if (!fits_) ShowAsIs();
+    loaded_ = {};
+    shown_ = Current();
+    // What the database puts in itself need not be written; what only the form shows (yes or no too) must be.
+    baseline_ = own ? prepared_.value_or(Variant::Null()) : shown_;
+    if (rule_.Default.IsNull()) baseline_ = Variant::Null();
+}
+
+std::optional<Variant> FieldBinding::Decode(const FieldValue& value) const {
+    if (rule_.Choices.isEmpty()) return FieldCodec::Decode(value, rule_.Kind);
+    if (rule_.Kind != ValueKind::Boolean || value.IsNull())
+        return FieldCodec::Decode(value, ValueKind::Choice);
+    const auto answer = FieldCodec::Decode(value, ValueKind::Boolean);
     if (!answer) return std::nullopt;
     return Variant(*answer->Get<bool>() ? "1" : "0");
 }
 
-void FieldBinding::LoadNew() {
-    const bool nothing = rule_.Default.IsNull();
-    Fill(rule_.Default, true);
-    if (nothing && !fits_) {
-        DefineCell(true);
-        fits_ = true;
-    }
-    loaded_ = {};
-    shown_ = Current();
-    // A cell that always shows something (yes or no) saves what it shows.
-    baseline_ = nothing ? Variant::Null() : shown_;
+/// A list shows nothing through an entry of its own.
+std::optional<Variant> FieldBinding::ForCell(const FieldValue& value) const {
+    auto decoded = Decode(value);
+    if (decoded && decoded->IsNull() && IsList()) return Variant("");
+    return decoded;
 }
 
 bool FieldBinding::IsList() const {
@@ -154,18 +232,20 @@ bool FieldBinding::IsShownExactly(const Variant& value) const {
 }
 
 void FieldBinding::ShowAsIs() {
-    const bool editable = loaded_.IsWhole() && rule_.Kind != ValueKind::Unreadable &&
-                          !FieldCodec::HasControlCharacters(loaded_.Text);
     const bool expected = rule_.Kind == ValueKind::Unreadable && loaded_.IsWhole();
     const QString caption = expected || loaded_.IsNull() ? rule_.Caption : QString(rule_.Caption + u" ⚠");
+    editable_ = loaded_.IsWhole() && rule_.Kind != ValueKind::Unreadable &&
+                !FieldCodec::HasControlCharacters(loaded_.Text);
     cell_->Clear();
-    cell_->Define({.NewCaption = Variant(caption.toStdString()), .NewCellTemplate = qgctNone});
+    // Secrets stay masked.
+    cell_->Define({.NewCaption = Variant(caption.toStdString()),
+                   .NewCellTemplate = rule_.Template == qgctPassword ? qgctPassword : qgctNone,
+                   .NewGroup = Group()});
     cell_->SetMaxLength(2 * SqlDialect::LongestText);
     cell_->SetValue(Variant(VisibleLineBreaks(loaded_.Text).toStdString()));
-    Lock(!editable || rule_.Locked || readOnly_);
-    cell_->SetVisible(rule_.Visible);
     cell_->SetFontItalic(!expected);
-    cell_->SetTooltipText((Hint().isEmpty() ? rule_.ToolTip : Hint()).toStdString());
+    Describe(rule_.Description.ForAnyValue());
+    if (!Hint().isEmpty()) cell_->SetTooltipText(Hint().toStdString());
 }
 
 QString FieldBinding::Hint() const {
@@ -189,7 +269,7 @@ Variant FieldBinding::Current() const {
 }
 
 bool FieldBinding::Differs(const Variant& from) const {
-    if (cell_->Locked()) return false;
+    if (!IsWritten()) return false;
     const Variant now = Current();
     if (forceNull_ && IsNothing(now)) return !loaded_.IsNull();
     return !IsSameValue(now, from);
@@ -204,7 +284,7 @@ bool FieldBinding::IsChanged() const {
 }
 
 void FieldBinding::SetNull() {
-    if (cell_->Locked() || !rule_.NullAllowed) return;
+    if (!IsWritten() || !IsEditable(*cell_, 0) || !rule_.NullAllowed) return;
     cell_->SetValue(IsList() ? Variant("") : Variant::Null());
     forceNull_ = IsNothing(Current());
 }

@@ -7,8 +7,10 @@
 #include "quillgrid/cells/Cell.h"
 #include "quillgrid/locale/Locale.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace quillgrid::editor {
 
@@ -21,10 +23,15 @@ public:
     const ColumnRule& Rule() const { return rule_; }
     quillgrid::Cell& TheCell() const { return *cell_; }
 
-    /// Shows a value of an existing record.
-    void Load(const FieldValue& value);
-    /// Shows the column of a record that is not in the database yet.
-    void LoadNew();
+    /// Makes the cell ready for a value of an existing record, for a column of a record that is not in the
+    /// database yet.
+    void Prepare(const FieldValue& value);
+    void PrepareNew();
+    /// What to put into the cell that was made ready for an existing record; nothing when it cannot hold it.
+    const std::optional<Variant>& Prepared() const { return prepared_; }
+    /// The cell has taken what was prepared for it, its default for a new record: looks whether it fits.
+    void Take();
+    void TakeNew();
 
     const FieldValue& Loaded() const { return loaded_; }
     /// False while the cell shows a value that does not fit its rule.
@@ -42,12 +49,18 @@ public:
     Outcome<QVariant> ToDatabase() const;
 
 private:
-    std::optional<Variant> DecodeLoaded() const;
-    void Fill(const FieldValue& value, bool mayBeNothing);
+    std::optional<Variant> Decode(const FieldValue& value) const;
+    std::optional<Variant> ForCell(const FieldValue& value) const;
+    Variant StartValue();
     void DefineCell(bool mayBeNothing);
+    void DefineKind();
+    void Describe(const ColumnDescription& description);
+    void KeepDemands();
+    std::string Group() const;
+    std::int32_t LongestText() const;
     bool IsList() const;
     bool IsForeignEuro() const;
-    void Lock(bool locked);
+    bool IsWritten() const { return !rule_.Locked && !readOnly_ && editable_; }
     void FillList();
     void ShowAsIs();
     bool IsShownExactly(const Variant& value) const;
@@ -61,10 +74,13 @@ private:
     FieldCodec codec_;
     Locale locale_;
     FieldValue loaded_;
+    std::optional<Variant> prepared_;
     Variant shown_;    ///< the cell's value as it was loaded
     Variant baseline_; ///< what the database has, or puts in itself
     bool readOnly_;
     bool fits_ = true;
+    bool editable_ = true;       ///< false while the cell shows what one line cannot give back
+    bool hasOwnDefault_ = false; ///< the dictionary's
     bool forceNull_ = false;
 };
 

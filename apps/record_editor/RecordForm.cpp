@@ -3,7 +3,53 @@
 #include "apps/record_editor/RuleReader.h"
 #include "apps/record_editor/SchemaReader.h"
 
+#include "quillgrid/base/Text.h"
+
+#include <algorithm>
+#include <array>
+
 namespace quillgrid::editor {
+namespace {
+
+/// Known to the sheet of the cells, but listed only on request.
+constexpr std::array<std::string_view, 5> Unlisted{"Format", "Increment", "AllowHoliday", "AllowSaturday",
+                                                   "AllowSunday"};
+
+/// With these in the sheet a data dictionary reaches them like all others.
+void ListAllProperties(Properties& sheet) {
+    for (const std::string_view name : Unlisted) {
+        const bool listed = std::any_of(sheet.begin(), sheet.end(),
+                                        [&](const auto& item) { return EqualIgnoreCase(item->Key(), name); });
+        if (!listed) sheet.Add({.Key = std::string(name)});
+    }
+}
+
+/// The name of the column, or one made of it where it is empty or differs from another only in case.
+std::string FreeKey(Quillgrid& grid, const std::string& name) {
+    std::string key = name;
+    for (int number = 2; key.empty() || grid.Cells().Find(ItemKey(key)); ++number)
+        key = name + " (" + std::to_string(number) + ")";
+    return key;
+}
+
+/// The values made ready for the cells, as a record of the control.
+class PreparedRecord : public Record {
+public:
+    PreparedRecord(const std::vector<FieldBinding>& bindings,
+                   const std::unordered_map<std::string, std::size_t>& byKey)
+        : bindings_(bindings), byKey_(byKey) {}
+
+    std::optional<Variant> Field(std::string_view key) const override {
+        const auto found = byKey_.find(std::string(key));
+        return found == byKey_.end() ? std::nullopt : bindings_[found->second].Prepared();
+    }
+
+private:
+    const std::vector<FieldBinding>& bindings_;
+    const std::unordered_map<std::string, std::size_t>& byKey_;
+};
+
+} // namespace
 
 Outcome<std::unique_ptr<RecordForm>> RecordForm::Open(Quillgrid& grid, Database& database,
                                                       const TableName& table, const FormSettings& settings) {
@@ -25,13 +71,22 @@ void RecordForm::MakeCells(const QList<ColumnRule>& rules, const FormSettings& s
     grid_.SetLanguage(settings.Language);
     bindings_.reserve(static_cast<std::size_t>(rules.size()));
     for (const ColumnRule& rule : rules) {
-        // Names that differ in case only share a key; cells get along without one.
-        const std::string name = rule.Name.toStdString();
-        const bool taken = grid_.Cells().Find(ItemKey(name)) != nullptr;
-        auto cell = grid_.Add({.Key = taken ? std::string() : name});
+        auto cell = grid_.Add({.Key = FreeKey(grid_, rule.Name.toStdString())});
+        ListAllProperties(*cell->Properties());
+        byKey_.emplace(cell->Key(), bindings_.size());
         bindings_.emplace_back(rule, std::move(cell), FieldCodec(postgres), settings.UserLocale, !CanWrite());
-        bindings_.back().LoadNew();
     }
+    FillNew();
+    MakeGroups();
+}
+
+/// The headings come after the cells, so that the first cell stays the first that a user would want.
+void RecordForm::MakeGroups() {
+    for (const FieldBinding& binding : bindings_) {
+        const std::string& key = binding.TheCell().Group();
+        if (!key.empty() && !grid_.Groups().Find(ItemKey(key))) grid_.AddGroup({.Key = key});
+    }
+    grid_.SetGrouped(grid_.Groups().Count() > 0);
 }
 
 QString RecordForm::Notice() const {
@@ -49,10 +104,25 @@ QString RecordForm::Notice() const {
     return QStringLiteral("Only the first %L1 records can be reached.").arg(store_.Count());
 }
 
+void RecordForm::Fill(const QList<FieldValue>& values) {
+    for (std::size_t i = 0; i < bindings_.size(); ++i)
+        bindings_[i].Prepare(values[static_cast<qsizetype>(i)]);
+    grid_.LoadRecord(PreparedRecord(bindings_, byKey_));
+    for (FieldBinding& binding : bindings_)
+        binding.Take();
+}
+
+void RecordForm::FillNew() {
+    for (FieldBinding& binding : bindings_)
+        binding.PrepareNew();
+    grid_.AddNew();
+    for (FieldBinding& binding : bindings_)
+        binding.TakeNew();
+}
+
 void RecordForm::Shown(qsizetype position, bool isNew) {
     position_ = position;
     isNew_ = isNew;
-    grid_.SetSilent(false);
     grid_.Update(); // Escape returns to what was loaded
     // The edit box still holds what belonged to the record before.
     if (const auto cell = grid_.Cell()) cell->Undo();
@@ -61,15 +131,13 @@ void RecordForm::Shown(qsizetype position, bool isNew) {
 Outcome<Done> RecordForm::Show(qsizetype position) {
     const auto values = store_.Read(position);
     if (!values) return values.Reason();
-    for (std::size_t i = 0; i < bindings_.size(); ++i)
-        bindings_[i].Load((*values)[static_cast<qsizetype>(i)]);
+    Fill(*values);
     Shown(position, false);
     return Done{};
 }
 
 void RecordForm::ShowNew() {
-    for (FieldBinding& binding : bindings_)
-        binding.LoadNew();
+    FillNew();
     Shown(-1, true);
 }
 

@@ -8,6 +8,8 @@
 #include <QList>
 
 #include <memory>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace quillgrid::editor {
@@ -55,12 +57,16 @@ private:
     void MakeCells(const QList<ColumnRule>& rules, const FormSettings& settings, bool postgres);
     Outcome<QList<FieldChange>> Changes() const;
     Outcome<Done> Insert(const QList<FieldChange>& changes);
+    void MakeGroups();
+    void Fill(const QList<FieldValue>& values);
+    void FillNew();
     void Shown(qsizetype position, bool isNew);
 
     Quillgrid& grid_;
     const Database& database_;
     RecordStore store_;
     std::vector<FieldBinding> bindings_;
+    std::unordered_map<std::string, std::size_t> byKey_; ///< bindings by the keys of their cells
     qsizetype position_ = -1;
     bool isNew_ = false;
 };

@@ -37,7 +37,8 @@ Outcome<QList<ColumnRule>> ReadRules(const Database& database, const TableSchema
     for (const Column& column : schema.Columns) {
         ColumnRule rule = RuleForColumn(column, schema, language);
         AddEntries(rule, column, database);
-        if (dictionary) dictionary->Apply(rule);
+        if (dictionary) dictionary->Describe(rule, !database.Dialect().IsPostgres());
+        AllowNoAnswer(rule, language);
         rules << rule;
     }
     return rules;

@@ -131,25 +131,6 @@ TEST(ColumnRules, ConstantDefaultsAreShownOthersLeftToTheDatabase) {
         EXPECT_TRUE(rules.Of(column).Default.IsNull()) << column;
 }
 
-TEST(ColumnRules, DictionaryOverridesInTheReadersLanguage) {
-    const QString statements = QStringLiteral(
-        "CREATE TABLE t (id INTEGER PRIMARY KEY, a TEXT, b INTEGER CHECK (b < 5));\n"
-        "CREATE TABLE data_dictionary (table_name, column_name, Caption, caption_de, Template, Min, "
-        "AllowEmpty, Locked);\n"
-        "INSERT INTO data_dictionary VALUES ('t', 'a', 'Born', 'Geboren', 4, '1900-01-01', 0, NULL),"
-        " ('t', 'B', NULL, NULL, NULL, '2', NULL, 1), ('other', 'a', 'x', 'x', 1, 1, 1, 1), ('t', 'zz', 1, "
-        "1, 1, 1, 1, 1);\n");
-    const Rules english(statements);
-    EXPECT_EQ(english.Of("a").Caption, QStringLiteral("Born"));
-    EXPECT_EQ(english.Of("a").Kind, ValueKind::Date);
-    EXPECT_EQ(Min(english.Of("a")), "1900-01-01");
-    EXPECT_FALSE(english.Of("a").AllowEmpty);
-    EXPECT_EQ(Min(english.Of("b")), "2");
-    EXPECT_EQ(Max(english.Of("b")), "4");
-    EXPECT_TRUE(english.Of("b").Locked);
-    EXPECT_EQ(Rules(statements, QStringLiteral("de")).Of("a").Caption, QStringLiteral("Geboren"));
-}
-
 TEST(ColumnRules, CaptionsReadLikeWords) {
     EXPECT_EQ(CaptionFromName(QStringLiteral("founded_on")), QStringLiteral("Founded on"));
     EXPECT_EQ(CaptionFromName(QStringLiteral("countryId")), QStringLiteral("Country id"));

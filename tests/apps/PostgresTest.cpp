@@ -1,3 +1,4 @@
+#include "DictionaryChecks.h"
 #include "PostgresServer.h"
 #include "TestDatabase.h"
 #include "apps/record_editor/RecordForm.h"
@@ -151,6 +152,15 @@ TEST_F(Postgres, NewRecordsAndHostileNames) {
     EXPECT_EQ(At("the id").Text(), "1");
     EXPECT_EQ(Ask(u"SELECT concat_ws('|', \"c'?\"\"\", d, coalesce(e::text, 'null')) FROM " + name),
               "v'|4|null");
+}
+
+TEST_F(Postgres, DataDictionaryConfiguresTheForm) {
+    for (const QString& statement : DictionaryStatements().split(QStringLiteral(";\n"), Qt::SkipEmptyParts))
+        Execute(statement);
+    const auto form = Open(QStringLiteral("t"));
+    EXPECT_EQ(At("level").Text(), "40.0 l");
+    form->ShowNew();
+    ExpectAsTheDictionarySays(widget_.grid());
 }
 
 TEST_F(Postgres, MissingDatabaseIsAClearMessage) {
