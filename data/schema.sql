@@ -54,6 +54,18 @@ CREATE TABLE data_dictionary (
     "Caption_de" TEXT,
     "TooltipText" TEXT,
     "TooltipText_de" TEXT,
+    "Group" TEXT,
+    "Group_de" TEXT,
+    "Alignment" INTEGER CHECK ("Alignment" BETWEEN 0 AND 2),
+    "FontBold" BOOLEAN,
+    "FontItalic" BOOLEAN,
+    "FillColor" INTEGER, -- red in the lowest byte
+    "CharCase" INTEGER CHECK ("CharCase" BETWEEN 0 AND 4),
+    "Charlist" TEXT,
     "Format" TEXT,
+    "Format_de" TEXT,
+    "Unit" TEXT,
+    "Unit_de" TEXT,
+    "Default" TEXT,
     PRIMARY KEY (table_name, column_name)
 );

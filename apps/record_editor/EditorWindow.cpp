@@ -100,7 +100,7 @@ EditorWindow::EditorWindow(std::unique_ptr<Database> database, QList<TableName> 
     makeLines();
     connectGrid();
     showState();
-    resize(560, 640);
+    resize(560, 700);
 }
 
 EditorWindow::~EditorWindow() {

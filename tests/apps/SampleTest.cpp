@@ -37,6 +37,26 @@ TEST(Sample, EveryValueFitsItsCellInEveryTable) {
     }
 }
 
+TEST(Sample, DictionaryDressesTheFormInTheReadersLanguage) {
+    DatabaseAddress address;
+    address.File = QStringLiteral(SAMPLE_DATABASE);
+    auto database = Database::Open(address);
+    ASSERT_TRUE(database);
+    quillgrid::qt::QuillgridWidget widget;
+    const auto form =
+        RecordForm::Open(widget.grid(), **database, Table(**database, QStringLiteral("companies")),
+                         {BuiltInLocale("de-DE"), qglgGerman, QStringLiteral("de")});
+    ASSERT_TRUE(form);
+    ASSERT_TRUE((*form)->Show(0));
+    const auto cell = [&](const char* column) { return widget.grid().Cells().Item(column); };
+    EXPECT_EQ(cell("opens_at")->Text(), "07:30 Uhr");
+    EXPECT_EQ(cell("credit_rating")->Unit(), "Punkte");
+    EXPECT_TRUE(cell("name")->FontBold());
+    EXPECT_NE(cell("owner_share")->FillColor(), widget.grid().FillColor());
+    EXPECT_EQ(widget.grid().Groups().Count(), 4);
+    EXPECT_EQ(widget.grid().RowCell(6)->Caption(), "Kontakt");
+}
+
 TEST(Sample, UsesEveryKindOfColumn) {
     DatabaseAddress address;
     address.File = QStringLiteral(SAMPLE_DATABASE);
