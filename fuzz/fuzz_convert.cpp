@@ -61,6 +61,7 @@ constexpr std::string_view Charlists[] = {
 constexpr std::int32_t Todays[] = {46342, FirstDay, LastDay, 0, INT32_MAX};
 
 struct FuzzSymbols : CurrencyConverter {
+    void SetLanguage(LanguageConstants) override {}
     std::string Symbol(std::string_view code) const override { return code == "EUR" ? "\u20AC" : ""; }
 };
 

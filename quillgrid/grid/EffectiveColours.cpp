@@ -8,6 +8,7 @@ EffectiveColours DesktopColours(bool propertyList) {
     EffectiveColours colours;
     if (propertyList) {
         colours.LabelBackground = ColourWindow;
+        colours.GroupBox = ColourWindow;
         colours.LabelBackgroundFocus = ColourHighlight;
         colours.LabelTextFocus = ColourHighlightText;
     }
@@ -23,6 +24,7 @@ EffectiveColours OwnColours(const GridSettings& settings) {
     colours.CellDisabledText = settings.CellForeColorDisabled;
     colours.CellDisabledBackground = settings.CellBackColorDisabled;
     colours.LabelBackground = settings.LabelBackColor;
+    colours.GroupBox = settings.GroupBoxColor;
     colours.LabelBackgroundFocus = settings.LabelBackColorFocus;
     colours.LabelText = settings.LabelForeColor;
     colours.LabelTextFocus = settings.LabelForeColorFocus;

@@ -15,6 +15,7 @@ struct EffectiveColours {
     Colour CellDisabledText = ColourGreyText;
     Colour CellDisabledBackground = ColourWindow;
     Colour LabelBackground = ColourButtonFace;
+    Colour GroupBox = ColourButtonFace;
     Colour LabelBackgroundFocus = ColourButtonFace;
     Colour LabelText = ColourWindowText;
     Colour LabelTextFocus = ColourWindowText;

@@ -28,7 +28,7 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Events, ports_.UserLocale),
       Mouse(State, Selector, Editor, Events, ports_.Images),
       Records(State, Cells, Seat, Repaint),
-      Painter(State, ports_.Images) {
+      Painter(State, Groups, ports_.Images) {
     State.UserMode = ports_.Container.UserMode();
 }
 

@@ -8,6 +8,13 @@ namespace {
 
 constexpr std::int32_t FrameEdge = 2;
 constexpr std::int32_t CellPaddingTop = 4;
+constexpr std::int32_t GroupMarginWidth = 16;
+constexpr std::int32_t CaptionPadding = 12;
+constexpr std::int32_t CaptionGap = 4;
+constexpr std::int32_t GroupCaptionIndent = 8;
+constexpr std::int32_t GroupCaptionGap = 3;
+constexpr std::int32_t TipsPadding = 8;
+constexpr std::int32_t TipsLines = 4;
 // Loaded settings may hold anything: beyond these no surface shows a difference, and sums cannot overflow.
 constexpr std::int32_t MaxBorder = 999;
 constexpr std::int32_t MaxBevel = 99;
@@ -40,17 +47,25 @@ LayoutMeasures Limited(LayoutMeasures measures) {
     limit(measures.Surface.Height);
     limit(measures.LabelHeight);
     limit(measures.CellHeight);
+    limit(measures.CaptionHeight);
     limit(measures.WidestCaption);
+    limit(measures.CaptionWidth);
     limit(measures.ScrollBarWidth);
     measures.RowCount = std::max(measures.RowCount, 0);
     return measures;
+}
+
+Margins StyleMargin(const GridSettings& settings, bool propertyList, bool labelsRight) {
+    Margins margin = propertyList ? Margins{} : Margins{8, 8, 0, 8};
+    if (settings.ShowGroupBox) (labelsRight ? margin.Right : margin.Left) = GroupMarginWidth;
+    return margin;
 }
 
 void SetStyle(GridLayout& layout, const GridSettings& settings) {
     layout.PropertyList = settings.Style != qgstDefault;
     layout.LabelsRight = settings.Alignment >= qgalRightJustify;
     layout.TextInset = layout.PropertyList ? 1 : 2;
-    layout.StyleMargin = layout.PropertyList ? Margins{} : Margins{8, 8, 0, 8};
+    layout.StyleMargin = StyleMargin(settings, layout.PropertyList, layout.LabelsRight);
     layout.OuterEdge = EdgeOf(settings.BevelOuter);
     layout.InnerEdge = EdgeOf(settings.BevelInner);
     layout.BorderEdge = EdgeOf(settings.BorderStyle);
@@ -63,21 +78,72 @@ void SetRowMeasures(GridLayout& layout, const LayoutMeasures& measures) {
     layout.RowCount = measures.RowCount;
 }
 
-void SetFrames(GridLayout& layout, const GridSettings& settings, Size size) {
+bool HasCaptionBar(const GridSettings& settings) {
+    return settings.ShowCaption && !settings.Caption.empty() && settings.BevelInner != qgbiGroupFrame;
+}
+
+/// The bar stands at the top of the frame; boxes are squares at its ends.
+void SetCaptionBar(GridLayout& layout, const GridSettings& settings, std::int32_t barHeight) {
+    if (!HasCaptionBar(settings)) return;
+    const std::int32_t top = layout.InnerBevel.Top + layout.InnerEdge + CaptionGap;
+    const Rect bar{layout.Frame.Left, top + layout.OuterEdge, layout.Frame.Right,
+                   top + barHeight - 2 * CaptionGap};
+    if (bar.IsEmpty()) return;
+    layout.CaptionBar = bar;
+    if (settings.ShowCloseBox) layout.CloseBox = {bar.Right - bar.Height(), bar.Top, bar.Right, bar.Bottom};
+    if (settings.ShowMenuBox) layout.MenuBox = {bar.Left, bar.Top, bar.Left + bar.Height(), bar.Bottom};
+}
+
+/// A group frame has its caption in the middle of its upper edge's height, as far as the control has room.
+void SetGroupCaption(GridLayout& layout, const GridSettings& settings, const LayoutMeasures& measures) {
+    if (settings.BevelInner != qgbiGroupFrame || settings.Caption.empty()) return;
+    const std::int32_t left = layout.InnerBevel.Left + GroupCaptionIndent;
+    const std::int32_t right = std::min(left + measures.CaptionWidth + 2 * GroupCaptionGap,
+                                        layout.InnerBevel.Right - GroupCaptionIndent);
+    const std::int32_t top = std::max(layout.InnerBevel.Top + 1 - measures.CaptionHeight / 2, 0);
+    layout.GroupCaption = {left, top, right, top + measures.CaptionHeight};
+}
+
+/// Returns the height that is left for the rows.
+std::int32_t SetTips(GridLayout& layout, const GridSettings& settings, const LayoutMeasures& measures) {
+    if (!settings.ShowTips) return measures.Surface.Height;
+    const std::int32_t height = TipsLines * measures.CellHeight + TipsPadding;
+    const std::int32_t inside = BorderMargin(settings) + layout.InnerEdge;
+    layout.Tips = {layout.InnerBevel.Left + inside, layout.InnerBevel.Bottom - inside - height,
+                   layout.InnerBevel.Right - inside, layout.InnerBevel.Bottom - inside};
+    return measures.Surface.Height - height;
+}
+
+void SetFrames(GridLayout& layout, const GridSettings& settings, const LayoutMeasures& measures) {
+    const Size size = measures.Surface;
     const Margins bevel = BevelMargin(settings);
     const std::int32_t inside = BorderMargin(settings) + layout.InnerEdge + layout.BorderEdge;
+    const std::int32_t bar = HasCaptionBar(settings) ? measures.CaptionHeight + CaptionPadding : 0;
     const Margins& style = layout.StyleMargin;
     layout.Control = {0, 0, size.Width, size.Height};
     layout.InnerBevel = {bevel.Left, bevel.Top, size.Width - bevel.Right, size.Height - bevel.Bottom};
-    layout.Content = {bevel.Left + style.Left + inside, bevel.Top + style.Top + inside,
+    const std::int32_t height = SetTips(layout, settings, measures);
+    layout.Content = {bevel.Left + style.Left + inside, bevel.Top + style.Top + inside + bar,
                       size.Width - bevel.Right - style.Right - inside,
-                      size.Height - bevel.Bottom - style.Bottom - inside};
+                      height - bevel.Bottom - style.Bottom - inside};
     layout.Frame = {layout.Content.Left - style.Left - layout.BorderEdge,
                     layout.Content.Top - style.Top - layout.BorderEdge,
                     layout.Content.Right + style.Right + layout.BorderEdge,
                     layout.Content.Bottom + style.Bottom + layout.BorderEdge};
+    SetCaptionBar(layout, settings, bar);
+    SetGroupCaption(layout, settings, measures);
 }
 
+void SetGroupMargin(GridLayout& layout, const GridSettings& settings) {
+    if (!settings.ShowGroupBox) return;
+    const Rect& content = layout.Content;
+    const Margins& style = layout.StyleMargin;
+    layout.GroupMargin =
+        layout.LabelsRight ? Rect{content.Right, content.Top, content.Right + style.Right - 1, content.Bottom}
+                           : Rect{content.Left - style.Left, content.Top, content.Left - 1, content.Bottom};
+}
+
+/// A bar narrows the content. Where the group margin stands on its side it stays outermost.
 void SetScrolling(GridLayout& layout, std::int32_t barWidth) {
     layout.VisibleRows = std::max(layout.Content.Height(), 0) / layout.RowPitch;
     if (layout.VisibleRows >= layout.RowCount || layout.RowCount < 2) {
@@ -88,9 +154,11 @@ void SetScrolling(GridLayout& layout, std::int32_t barWidth) {
     const std::int32_t top = layout.Content.Top - layout.StyleMargin.Top;
     const std::int32_t height =
         layout.Content.Height() - layout.InnerEdge + layout.StyleMargin.Top + layout.StyleMargin.Bottom;
+    const bool besideMargin = layout.LabelsRight && !layout.GroupMargin.IsEmpty();
+    const std::int32_t left = layout.Content.Right - barWidth + (besideMargin ? layout.StyleMargin.Right : 0);
     layout.Content.Right -= barWidth;
-    layout.ScrollBar = {layout.Content.Right, top, layout.Content.Right + barWidth + 1,
-                        top + std::max(height, 0)};
+    if (besideMargin) layout.GroupMargin = layout.GroupMargin.Moved(-barWidth, 0);
+    layout.ScrollBar = {left, top, left + barWidth + 1, top + std::max(height, 0)};
 }
 
 void SetColumns(GridLayout& layout, std::int32_t labelWidth) {
@@ -134,12 +202,30 @@ Rect GridLayout::ValueArea(std::int32_t place) const {
     return Place(*this, place, Values.Left, Values.Right());
 }
 
+Rect GridLayout::GroupArea(std::int32_t place) const {
+    return Place(*this, place, GroupMargin.Left, GroupMargin.Right);
+}
+
+Rect GridLayout::ButtonArea(const Rect& value) const {
+    return {std::max(value.Right - ButtonWidth, value.Left), value.Top, value.Right, value.Bottom};
+}
+
 std::string GridLayout::DumpText() const {
     std::string text = Line("inner bevel", InnerBevel) + Line("frame", Frame) + Line("content", Content) +
                        Line("labels", Labels) + Line("values", Values) + Line("row height", RowHeight) +
-                       Line("row pitch", RowPitch) + Line("visible rows", VisibleRows);
-    return text + (ScrollBarShown() ? Line("scroll bar", ScrollBar) : "no scroll bar\n") +
-           Line("scroll maximum", ScrollMaximum);
+                       Line("row pitch", RowPitch) + Line("visible rows", VisibleRows) +
+                       (ScrollBarShown() ? Line("scroll bar", ScrollBar) : "no scroll bar\n") +
+                       Line("scroll maximum", ScrollMaximum);
+    const auto add = [&text](const char* name, const Rect& rect) {
+        if (!rect.IsEmpty()) text += Line(name, rect);
+    };
+    add("caption bar", CaptionBar);
+    add("close box", CloseBox);
+    add("menu box", MenuBox);
+    add("tips", Tips);
+    add("group margin", GroupMargin);
+    add("group caption", GroupCaption);
+    return text;
 }
 
 GridLayout Layout(const GridSettings& settings, const LayoutMeasures& given) {
@@ -147,7 +233,10 @@ GridLayout Layout(const GridSettings& settings, const LayoutMeasures& given) {
     GridLayout layout;
     SetStyle(layout, settings);
     SetRowMeasures(layout, measures);
-    SetFrames(layout, settings, measures.Surface);
+    SetFrames(layout, settings, measures);
+    SetGroupMargin(layout, settings);
+    layout.TipsTitleHeight = measures.LabelHeight;
+    layout.ButtonWidth = measures.ScrollBarWidth;
     SetScrolling(layout, measures.ScrollBarWidth);
     const std::int32_t fixedWidth = std::clamp(settings.LabelWidth, 0, MaxMeasure);
     SetColumns(layout, fixedWidth == 0 ? measures.WidestCaption : fixedWidth);

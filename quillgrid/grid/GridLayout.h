@@ -31,9 +31,11 @@ struct ColumnSpan {
 struct LayoutMeasures {
     Size Surface;
     std::int32_t RowCount = 0;
-    std::int32_t LabelHeight = 0; ///< line height of Font
-    std::int32_t CellHeight = 0;  ///< line height of CellFont
+    std::int32_t LabelHeight = 0;   ///< line height of Font
+    std::int32_t CellHeight = 0;    ///< line height of CellFont
+    std::int32_t CaptionHeight = 0; ///< line height of CaptionFont
     std::int32_t WidestCaption = 0;
+    std::int32_t CaptionWidth = 0; ///< of `Caption` in CaptionFont; only a group frame needs it
     std::int32_t ScrollBarWidth = 14;
 };
 
@@ -47,7 +49,14 @@ struct GridLayout {
     Rect InnerBevel;
     Rect Frame;
     Rect Content;
-    Rect ScrollBar; ///< empty while hidden
+    Rect ScrollBar;  ///< empty while hidden
+    Rect CaptionBar; ///< these four are empty while not shown
+    Rect CloseBox;
+    Rect MenuBox;
+    Rect Tips;
+    Rect GroupCaption; ///< the caption within the upper edge of a group frame
+    Rect GroupMargin;  ///< beside the rows, where headings show whether they are expanded; empty while not
+                       ///< shown
     Margins StyleMargin;
     ColumnSpan Labels;
     ColumnSpan Values;
@@ -60,12 +69,19 @@ struct GridLayout {
     std::int32_t RowCount = 0;
     std::int32_t VisibleRows = 0;
     std::int32_t ScrollMaximum = 1;
+    std::int32_t TipsTitleHeight = 0;
+    std::int32_t ButtonWidth = 14; ///< of the button strip at the right of a value
 
+    bool CaptionShown() const { return !CaptionBar.IsEmpty(); }
     bool ScrollBarShown() const { return !ScrollBar.IsEmpty(); }
     /// Label and value side of the row at a place in view.
     Rect RowArea(std::int32_t place) const;
     Rect LabelArea(std::int32_t place) const;
     Rect ValueArea(std::int32_t place) const;
+    /// The part of the group margin beside the row.
+    Rect GroupArea(std::int32_t place) const;
+    /// The button strip of a value at the given place.
+    Rect ButtonArea(const Rect& value) const;
 
     /// One line a rectangle or measure.
     std::string DumpText() const;

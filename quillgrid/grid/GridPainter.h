@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/cells/Groups.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/platform/Canvas.h"
 #include "quillgrid/platform/ImageSource.h"
@@ -10,7 +11,8 @@ namespace quillgrid {
 /// rows in that part, never the number of cells.
 class GridPainter {
 public:
-    GridPainter(const GridState& state, const ImageSource* images) : state_(state), images_(images) {}
+    GridPainter(const GridState& state, const Groups& groups, const ImageSource* images)
+        : state_(state), groups_(groups), images_(images) {}
 
     /// A call within a call (a canvas that raises events) paints nothing.
     void Paint(Canvas& canvas, const Rect& dirty);
@@ -22,13 +24,12 @@ private:
     };
 
     RowRange RowsIn(const Rect& area) const;
-    void PaintFrame(Canvas& canvas) const;
-    void PaintBevels(Canvas& canvas) const;
-    void PaintGrid(Canvas& canvas, RowRange rows) const;
-    void PaintBelowRows(Canvas& canvas) const;
+    void PaintFrame(Canvas& canvas, RowRange rows) const;
+    void PaintGroupGlyphs(Canvas& canvas, const Rect& dirty, RowRange rows) const;
     void PaintRows(Canvas& canvas, const Rect& clip, RowRange rows) const;
 
     const GridState& state_;
+    const Groups& groups_;
     const ImageSource* images_;
     bool busy_ = false;
 };

@@ -55,6 +55,7 @@ void GridRefresh::SetCurrent(const std::shared_ptr<Cell>& kept) {
 
 void GridRefresh::LayOut() {
     state_.Colours = ColoursOf(state_.Settings);
+    ports_.Window.SetBackColour(state_.Colours.Background);
     state_.Layout = Layout(state_.Settings, Measure());
     state_.FirstVisible = state_.LimitedFirstVisible(state_.FirstVisible);
     for (std::int32_t row = 1; row <= state_.RowCount(); ++row) {
@@ -72,8 +73,12 @@ LayoutMeasures GridRefresh::Measure() {
     measures.Surface = ports_.Window.InnerSize();
     measures.RowCount = state_.RowCount();
     measures.LabelHeight = ports_.Metrics.LineHeight(state_.Settings.Font);
+    measures.CaptionHeight = ports_.Metrics.LineHeight(state_.Settings.CaptionFont);
     measures.CellHeight = ports_.Metrics.LineHeight(state_.Settings.CellFont);
     measures.ScrollBarWidth = std::max(ports_.Desktop.ScrollBarWidth(), LeastScrollBarWidth);
+    if (state_.Settings.BevelInner == qgbiGroupFrame)
+        measures.CaptionWidth =
+            ports_.Metrics.TextWidth(state_.Settings.CaptionFont, state_.Settings.Caption);
     if (state_.Settings.LabelWidth <= 0) measures.WidestCaption = WidestCaption();
     return measures;
 }

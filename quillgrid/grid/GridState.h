@@ -5,12 +5,23 @@
 #include "quillgrid/grid/EffectiveColours.h"
 #include "quillgrid/grid/GridLayout.h"
 #include "quillgrid/grid/GridSettings.h"
+#include "quillgrid/platform/Glyph.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 
 namespace quillgrid {
+
+/// A part of the control that answers the mouse with its look.
+struct MousePart {
+    enum class Kind : std::uint8_t { None, CloseBox, MenuBox, CellButton };
+
+    Kind Place = Kind::None;
+    std::int32_t Row = 0; ///< of a cell button
+
+    friend bool operator==(const MousePart&, const MousePart&) = default;
+};
 
 /// What the collaborators of the control share: plain values, and questions about them. After every raised
 /// event whoever works on a cell asks again whether it is still there.
@@ -23,6 +34,8 @@ struct GridState {
     std::int32_t FirstVisible = 1;
     GridLayout Layout;
     EffectiveColours Colours;
+    MousePart Hot;     ///< under the pointer
+    MousePart Pressed; ///< held down
     std::string CurrentGroup;
     bool UserMode = true;
     bool Silent = false;
@@ -47,6 +60,9 @@ struct GridState {
     /// Where the row is seen; empty when it is out of view.
     Rect RowArea(std::int32_t row) const;
     Rect ValueArea(std::int32_t row) const;
+    ButtonLook LookOf(const MousePart& part) const {
+        return part == Pressed ? ButtonLook::Pressed : part == Hot ? ButtonLook::Hot : ButtonLook::Normal;
+    }
     bool IsCurrent(const Cell& cell) const { return !Terminated && Current.get() == &cell; }
 };
 

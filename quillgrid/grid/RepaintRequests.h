@@ -17,6 +17,9 @@ public:
     void Rows() const {
         if (!state_.Terminated) window_.Invalidate(state_.Layout.Content);
     }
+    void Tips() const {
+        if (!state_.Terminated && !state_.Layout.Tips.IsEmpty()) window_.Invalidate(state_.Layout.Tips);
+    }
     void All() const {
         if (!state_.Terminated) window_.Invalidate(state_.Layout.Control);
     }

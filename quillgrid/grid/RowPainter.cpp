@@ -52,6 +52,7 @@ void RowPainter::PaintValue(const Cell& cell, std::int32_t row) {
     if (!state_.Layout.PropertyList) canvas_.Edge(area, EdgeKind::Sunken);
     const bool visible = IsDataVisible(cell, state_.Settings.UserLevel);
     const ValueLayout parts = LayOutValue(cell, area, state_.Layout, images_, visible);
+    PaintButton(cell, row, parts.Button);
     PaintDecoration(parts, cell);
     if (!visible) return;
     if (cell.ShowPercent()) {
@@ -59,6 +60,27 @@ void RowPainter::PaintValue(const Cell& cell, std::int32_t row) {
     } else {
         PaintText(cell, parts.TextArea);
     }
+}
+
+/// The grid's line above the row stays free.
+void RowPainter::PaintButton(const Cell& cell, std::int32_t row, const Rect& strip) {
+    if (strip.IsEmpty()) return;
+    const Rect area = Background(strip, row, false);
+    const ButtonLook look = state_.LookOf({MousePart::Kind::CellButton, row});
+    if (state_.Settings.Appearance == qgap3D) {
+        canvas_.PushButton(area, look);
+        canvas_.Line({area.Left, area.Top}, {area.Left, area.Bottom}, ColourLight3D);
+    } else {
+        canvas_.Fill(area, state_.Colours.CellBackground);
+        if (look == ButtonLook::Pressed) canvas_.Edge(area, EdgeKind::SunkenOuter);
+        if (look == ButtonLook::Hot) canvas_.Edge(area, EdgeKind::RaisedInner);
+    }
+    canvas_.DrawGlyph(area, static_cast<Glyph>(cell.Button() - qgbtDropDown), look);
+}
+
+void RowPainter::PaintGroupGlyph(std::int32_t row, bool expanded) {
+    canvas_.DrawGlyph(state_.Layout.GroupArea(row - state_.FirstVisible),
+                      expanded ? Glyph::Collapse : Glyph::Expand, ButtonLook::Normal);
 }
 
 void RowPainter::PaintDecoration(const ValueLayout& parts, const Cell& cell) {

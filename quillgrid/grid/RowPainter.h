@@ -16,10 +16,13 @@ public:
 
     void PaintValue(const Cell& cell, std::int32_t row);
     void PaintLabel(const Cell& cell, std::int32_t row);
+    /// The sign beside a group heading that says whether the group is expanded.
+    void PaintGroupGlyph(std::int32_t row, bool expanded);
 
 private:
     Rect Background(Rect area, std::int32_t row, bool leftSide) const;
     void PaintDecoration(const ValueLayout& parts, const Cell& cell);
+    void PaintButton(const Cell& cell, std::int32_t row, const Rect& strip);
     void PaintText(const Cell& cell, const Rect& area);
     void PaintPercent(const Cell& cell, const Rect& value, bool plain);
     Rect PercentArea(const Rect& value) const;

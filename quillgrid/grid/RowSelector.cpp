@@ -23,7 +23,10 @@ bool RowSelector::MakeCurrent(std::int32_t row) {
     state_.Current = cell;
     state_.CurrentRow = row;
     if (IsHeading(*cell)) state_.CurrentGroup = cell->Group();
-    if (another) repaint_.Row(row);
+    if (another) {
+        repaint_.Row(row);
+        repaint_.Tips();
+    }
     seat_.Seat();
     seat_.KeepFocus();
     if (another) events_.SelChange(*cell);

@@ -14,7 +14,8 @@ constexpr std::int32_t TextGap = 2;
 constexpr std::int32_t ImageGap = 4;
 
 bool ShowsSwatch(const Cell& cell) {
-    return (cell.Template() == qgctColor || cell.Template() == qgctSysColor) && cell.ListIndex() >= 1;
+    const bool colour = cell.Template() == qgctColor || cell.Template() == qgctSysColor;
+    return colour && cell.ListIndex() >= 1 && cell.ItemData().IsNumber(); // an empty entry has no colour
 }
 
 const Picture* FindImage(const Variant& key, const ImageSource* images) {
@@ -49,6 +50,10 @@ ValueLayout LayOutValue(const Cell& cell, const Rect& area, const GridLayout& la
         parts.ImageContent = image;
         parts.Image = Centred(area, left, images->ImageSize());
         parts.EditArea.Left += parts.Image.Width() + ImageGap;
+    }
+    if (cell.Button() > qgbtNone && cell.Button() <= qgbtInfo) {
+        parts.Button = layout.ButtonArea(area);
+        parts.EditArea.Right = std::min(parts.EditArea.Right, parts.Button.Left);
     }
     parts.EditArea.Right = std::max(parts.EditArea.Right, parts.EditArea.Left);
     parts.TextArea = parts.EditArea;

@@ -15,6 +15,7 @@ struct ValueLayout {
     Rect Swatch; ///< of colour cells, else empty
     Rect Image;  ///< empty when there is none
     const Picture* ImageContent = nullptr;
+    Rect Button;   ///< the strip at the right, empty without a button
     Rect EditArea; ///< the edit box
     Rect TextArea; ///< painted text
 };

@@ -4,6 +4,7 @@
 #include "quillgrid/base/Constants.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/platform/Font.h"
+#include "quillgrid/platform/Glyph.h"
 #include "quillgrid/platform/ImageSource.h"
 
 #include <cstdint>
@@ -47,7 +48,10 @@ public:
     /// One pixel wide, from the first point up to, but not including, the second; horizontal or vertical.
     virtual void Line(Point from, Point to, Colour colour) = 0;
     virtual void Edge(const Rect& area, EdgeKind kind) = 0;
-    virtual void PushButton(const Rect& area, bool pressed) = 0;
+    virtual void PushButton(const Rect& area, ButtonLook look) = 0;
+    /// Centred in `area`, pixels left over at the right and below; black in light palettes, green when
+    /// pressed.
+    virtual void DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) = 0;
     /// Text never leaves `area`.
     virtual void Text(const Rect& area, std::string_view text, const TextStyle& style) = 0;
     virtual void Image(const Rect& area, const Picture& picture) = 0;

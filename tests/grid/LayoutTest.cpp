@@ -14,7 +14,9 @@ LayoutMeasures Measures(std::int32_t rows, Size surface = {300, 200}) {
             .RowCount = rows,
             .LabelHeight = 13,
             .CellHeight = 13,
+            .CaptionHeight = 17,
             .WidestCaption = 70,
+            .CaptionWidth = 40,
             .ScrollBarWidth = 16};
 }
 
@@ -87,6 +89,66 @@ TEST(Layout, ScrollBarComesWithTheFirstRowThatDoesNotFitUnlessItIsTheOnlyOne) {
     EXPECT_FALSE(one.ScrollBarShown());
     EXPECT_EQ(Layout(DefaultSettings(), Measures(10, {300, 92})).ScrollMaximum, 7);
     EXPECT_EQ(Layout(DefaultSettings(), Measures(0)).ScrollMaximum, 1);
+}
+
+TEST(Layout, CaptionBarStandsInTheFrameAndPushesTheRowsDown) {
+    GridSettings settings = DefaultSettings();
+    settings.ShowCaption = true;
+    EXPECT_FALSE(Layout(settings, Measures(5)).CaptionShown()) << "no caption, no bar";
+    settings.Caption = "Form";
+    settings.BevelOuter = qgboRaised;
+    settings.BevelInner = qgbiSunken;
+    EXPECT_EQ(Layout(settings, Measures(5)).DumpText(), "inner bevel 4,4 - 296,196\n"
+                                                        "frame 10,39 - 290,190\n"
+                                                        "content 12,41 - 288,188\n"
+                                                        "labels 12 + 76\n"
+                                                        "values 88 + 199\n"
+                                                        "row height 18\n"
+                                                        "row pitch 18\n"
+                                                        "visible rows 8\n"
+                                                        "no scroll bar\n"
+                                                        "scroll maximum 5\n"
+                                                        "caption bar 10,12 - 290,31\n"
+                                                        "close box 271,12 - 290,31\n"
+                                                        "menu box 10,12 - 29,31\n");
+    settings.ShowCloseBox = settings.ShowMenuBox = false;
+    EXPECT_TRUE(Layout(settings, Measures(5)).CloseBox.IsEmpty());
+    EXPECT_TRUE(Layout(settings, Measures(5)).MenuBox.IsEmpty());
+    settings.BevelInner = qgbiGroupFrame;
+    const GridLayout framed = Layout(settings, Measures(5));
+    EXPECT_FALSE(framed.CaptionShown());
+    EXPECT_EQ(framed.Content.Top, 12);
+    EXPECT_EQ(framed.GroupCaption, (Rect{12, 0, 58, 17})) << "as high as the control has room";
+}
+
+TEST(Layout, TipsBoxTakesItsHeightFromTheRows) {
+    GridSettings settings = DefaultSettings();
+    settings.ShowTips = true;
+    const GridLayout layout = Layout(settings, Measures(5));
+    EXPECT_EQ(layout.Tips, (Rect{8, 132, 292, 192}));
+    EXPECT_EQ(layout.Frame.Bottom, 132);
+    EXPECT_EQ(layout.Content.Bottom, 130);
+    EXPECT_EQ(layout.InnerBevel.Bottom, 196);
+    EXPECT_EQ(Layout(settings, Measures(5, {300, 40})).VisibleRows, 0);
+}
+
+TEST(Layout, GroupMarginStandsBesideTheRowsAndOutsideTheScrollBar) {
+    GridSettings settings = DefaultSettings();
+    settings.ShowGroupBox = true;
+    const auto margin = [&](int rows) { return Layout(settings, Measures(rows)).GroupMargin; };
+    EXPECT_EQ(margin(5), (Rect{10, 10, 25, 190}));
+    EXPECT_EQ(margin(50), (Rect{10, 10, 25, 190}));
+    settings.Alignment = qgalRightJustify;
+    EXPECT_EQ(margin(5), (Rect{274, 10, 289, 190}));
+    const GridLayout scrolled = Layout(settings, Measures(50));
+    EXPECT_EQ(scrolled.GroupMargin, (Rect{258, 10, 273, 190}));
+    EXPECT_EQ(scrolled.ScrollBar, (Rect{274, 10, 291, 190}));
+    EXPECT_EQ(scrolled.Content.Right, 258);
+    EXPECT_EQ(scrolled.Values.Left, 10);
+    settings.Style = qgstDefault;
+    EXPECT_EQ(Layout(settings, Measures(5)).Content, (Rect{18, 18, 274, 182}));
+    settings.Alignment = qgalLeftJustify;
+    EXPECT_EQ(Layout(settings, Measures(5)).Content, (Rect{26, 18, 290, 182}));
 }
 
 TEST(Layout, NoSettingAndNoSizeBreaksTheArithmetic) {

@@ -1,3 +1,4 @@
+#include "quillgrid/grid/Keys.h"
 #include "quillgrid/hosts/headless/HeadlessHost.h"
 
 #include <gmock/gmock.h>
@@ -36,7 +37,10 @@ TEST(Paint, PropertyListWithAGridAndTheCurrentLabelHighlighted) {
                                   "fill 58,10 - 189,28 sys5\n"
                                   "text 61,11 - 186,27 'Ann' sys8 left\n"
                                   "fill 58,29 - 189,46 sys5\n"
-                                  "text 61,29 - 186,45 '12,5' sys8 right\n"
+                                  "button 173,29 - 189,46\n"
+                                  "line 173,29 - 173,46 sys22\n"
+                                  "glyph 173,29 - 189,46 calculator\n"
+                                  "text 61,29 - 171,45 '12,5' sys8 right\n"
                                   "fill 10,10 - 57,28 sys13\n"
                                   "text 13,10 - 55,28 'Name' sys14 left\n"
                                   "fill 10,29 - 57,46 sys5\n"
@@ -152,6 +156,96 @@ TEST(Paint, NothingIsPaintedOutsideTheContentByRowsAndLabelsTooWide) {
     const auto canvas = host.Paint();
     EXPECT_THAT(canvas.Calls(), Contains("clip 10,10 - 70,26"));
     EXPECT_TRUE(host.Paint({-50, -50, -10, -10}).Texts().empty());
+}
+
+TEST(Paint, CaptionBarShowsItsBoxesInThreeStates) {
+    HeadlessHost host({200, 120});
+    host.Grid->SetCaption("Form");
+    host.Grid->SetShowCaption(true);
+    host.Grid->Refresh();
+    const RecordingCanvas canvas = host.Paint();
+    EXPECT_THAT(canvas.Texts(), Contains("Form"));
+    EXPECT_THAT(canvas.Starting("glyph"),
+                ElementsAre("glyph 175,8 - 192,25 close", "glyph 8,8 - 25,25 drop-down"));
+    EXPECT_THAT(canvas.Starting("edge"), ElementsAre("edge 175,8 - 192,25 flat", "edge 8,8 - 25,25 flat",
+                                                     "edge 8,33 - 192,112 sunken"));
+    host.Grid->SetShowCloseBox(false);
+    host.Grid->SetCaption("");
+    host.Grid->Refresh();
+    EXPECT_THAT(host.Paint().Starting("glyph"), ::testing::IsEmpty());
+}
+
+TEST(Paint, GroupFrameHasTheCaptionInItsEdge) {
+    HeadlessHost host({200, 120});
+    host.Grid->SetCaption("Form");
+    host.Grid->SetBevelInner(qgbiGroupFrame);
+    host.Grid->SetBevelWidth(12);
+    host.Grid->Refresh();
+    const RecordingCanvas canvas = host.Paint();
+    EXPECT_THAT(canvas.Starting("edge"),
+                ElementsAre("edge 12,12 - 188,108 etched", "edge 18,18 - 182,102 sunken"));
+    EXPECT_THAT(canvas.Starting("text 20,7"), ElementsAre("text 20,7 - 54,20 'Form' sys8 centre bold"));
+}
+
+TEST(Paint, ButtonsFollowTheAppearance) {
+    HeadlessHost host({200, 80});
+    host.Grid->Add({.Caption = Variant("When"), .CellTemplate = qgctDate});
+    host.Grid->Refresh();
+    const auto button = [&](AppearanceConstants appearance) {
+        host.Grid->SetAppearance(appearance);
+        host.Grid->Refresh();
+        std::vector<std::string> calls = host.Paint().Starting("button");
+        for (const auto& glyph : host.Paint().Starting("glyph"))
+            calls.push_back(glyph);
+        return calls;
+    };
+    EXPECT_THAT(button(qgap3D), ElementsAre("button 173,10 - 189,28", "glyph 173,10 - 189,28 clock"));
+    EXPECT_THAT(button(qgapFlat), ElementsAre("glyph 173,10 - 189,28 clock"));
+    EXPECT_THAT(button(qgapTrack3D), ElementsAre("glyph 173,10 - 189,28 clock"));
+    host.Grid->Cell()->SetButton(static_cast<ButtonStyleConstants>(99));
+    EXPECT_THAT(button(qgapFlat), ::testing::IsEmpty()) << "no such glyph";
+}
+
+TEST(Paint, GroupMarginShowsWhichGroupsAreOpen) {
+    HeadlessHost host({200, 120});
+    host.Grid->SetGrouped(true);
+    host.Grid->SetShowGroupBox(true);
+    host.Grid->AddGroup({.Key = "open"});
+    host.Grid->Add({.Caption = Variant("inside")});
+    host.Grid->AddGroup({.Key = "shut", .Expanded = false});
+    host.Grid->Refresh();
+    EXPECT_THAT(host.Paint().Starting("glyph"),
+                ElementsAre("glyph 10,10 - 25,28 collapse", "glyph 10,46 - 25,64 expand"));
+    EXPECT_THAT(host.Paint({30, 0, 200, 120}).Starting("glyph"), ::testing::IsEmpty());
+}
+
+TEST(Paint, TipsBoxTellsOfTheCurrentCell) {
+    HeadlessHost host({200, 160});
+    host.Grid->SetShowTips(true);
+    host.Grid->Add({.Caption = Variant("&Name"), .TooltipText = "As in the passport"});
+    host.Grid->Add({.Caption = Variant("Age"), .TooltipText = "In years"});
+    host.Grid->Refresh();
+    const auto tips = [&] { return host.Paint({0, 95, 200, 160}).Texts(); };
+    EXPECT_THAT(tips(), ElementsAre("Name", "As in the passport"));
+    EXPECT_THAT(host.Paint().Starting("text 12,96"),
+                ElementsAre("text 12,96 - 188,109 'Name' sys8 left bold"));
+    EXPECT_THAT(host.Paint({0, 0, 200, 90}).Texts(), Not(Contains("As in the passport")));
+    host.EnterControl();
+    host.Surface.Invalid.clear();
+    host.Press(KeyDown);
+    EXPECT_THAT(host.Surface.Invalid, Contains(Rect{8, 92, 192, 152}));
+    EXPECT_THAT(tips(), ElementsAre("Age", "In years"));
+}
+
+TEST(Paint, FlatAndRaisedFramesMeetTheTable) {
+    HeadlessHost host({200, 80});
+    host.Grid->SetBorderStyle(qgbsFlat);
+    host.Grid->Refresh();
+    EXPECT_THAT(host.Paint().Calls(), Contains("fill 9,9 - 190,70 sys5"));
+    host.Grid->SetBorderStyle(qgbsRaisedLight);
+    host.Grid->Refresh();
+    EXPECT_THAT(host.Paint().Calls(), Contains("line 9,9 - 190,9 sys15"));
+    EXPECT_THAT(host.Paint().Calls(), Contains("line 9,9 - 9,70 sys15"));
 }
 
 } // namespace

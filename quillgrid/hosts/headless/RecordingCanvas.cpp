@@ -10,6 +10,9 @@ namespace quillgrid::headless {
 namespace {
 
 constexpr const char* EdgeNames[] = {"flat", "sunken", "raised", "sunken-outer", "raised-inner", "etched"};
+constexpr const char* LookNames[] = {"", " hot", " pressed"};
+constexpr const char* GlyphNames[] = {"drop-down", "spin", "clock", "ellipsis", "calculator",
+                                      "telephone", "info", "close", "collapse", "expand"};
 constexpr const char* AlignmentNames[] = {"left", "right", "centre"};
 
 std::string StyleText(const TextStyle& style) {
@@ -33,8 +36,13 @@ void RecordingCanvas::Edge(const Rect& area, EdgeKind kind) {
     calls_.push_back("edge " + TextOf(area) + " " + EdgeNames[static_cast<int>(kind)]);
 }
 
-void RecordingCanvas::PushButton(const Rect& area, bool pressed) {
-    calls_.push_back("button " + TextOf(area) + (pressed ? " pressed" : ""));
+void RecordingCanvas::PushButton(const Rect& area, ButtonLook look) {
+    calls_.push_back("button " + TextOf(area) + LookNames[static_cast<int>(look)]);
+}
+
+void RecordingCanvas::DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) {
+    calls_.push_back("glyph " + TextOf(area) + " " + GlyphNames[static_cast<int>(glyph)] +
+                     LookNames[static_cast<int>(look)]);
 }
 
 void RecordingCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {

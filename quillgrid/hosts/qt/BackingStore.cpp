@@ -55,8 +55,12 @@ void BackingStore::Edge(const Rect& area, EdgeKind kind) {
     Draw([&](Canvas& canvas) { canvas.Edge(area, kind); });
 }
 
-void BackingStore::PushButton(const Rect& area, bool pressed) {
-    Draw([&](Canvas& canvas) { canvas.PushButton(area, pressed); });
+void BackingStore::PushButton(const Rect& area, ButtonLook look) {
+    Draw([&](Canvas& canvas) { canvas.PushButton(area, look); });
+}
+
+void BackingStore::DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) {
+    Draw([&](Canvas& canvas) { canvas.DrawGlyph(area, glyph, look); });
 }
 
 void BackingStore::Text(const Rect& area, std::string_view text, const TextStyle& style) {

@@ -3,8 +3,10 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QtPicture.h"
 #include "quillgrid/hosts/qt/QtTheme.h"
+#include "quillgrid/resources/Glyphs.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <array>
@@ -67,6 +69,23 @@ QPainter::CompositionMode ModeOf(std::int32_t operation) {
     }
 }
 
+QPainterPath OutlineOf(Glyph glyph) {
+    QPainterPath path; // odd-even is its own rule of filling
+    for (const GlyphContour contour : ContoursOf(glyph)) {
+        QPolygonF polygon;
+        for (const GlyphPoint point : contour)
+            polygon << QPointF(point.X, point.Y);
+        path.addPolygon(polygon);
+        path.closeSubpath();
+    }
+    return path;
+}
+
+/// Dark green; on a dark palette, where ink is light, a light one.
+QColor PressedInk(const QColor& ink) {
+    return ink.lightnessF() < 0.5 ? ToQColor(PressedGlyphColour, QPalette()) : QColor(96, 208, 96);
+}
+
 /// What is wider than any screen is not worth shaping.
 constexpr qsizetype LongestText = 10'000;
 
@@ -106,11 +125,26 @@ void QtCanvas::Edge(const Rect& area, EdgeKind kind) {
     Frame(area.Shrunk(1), Edges[index].Inner.TopLeft, Edges[index].Inner.BottomRight);
 }
 
-void QtCanvas::PushButton(const Rect& area, bool pressed) {
+void QtCanvas::PushButton(const Rect& area, ButtonLook look) {
     if (area.IsEmpty()) return;
-    const QColor face = palette_.color(QPalette::Button);
-    painter_.fillRect(ToQRect(area), pressed ? Mixed(face, Qt::black, 0.12) : face);
-    Edge(area, pressed ? EdgeKind::SunkenOuter : EdgeKind::Raised);
+    QColor face = palette_.color(QPalette::Button);
+    if (look == ButtonLook::Pressed) face = Mixed(face, Qt::black, 0.12);
+    if (look == ButtonLook::Hot) face = Mixed(face, palette_.color(QPalette::Highlight), 0.15);
+    painter_.fillRect(ToQRect(area), face);
+    Edge(area, look == ButtonLook::Pressed ? EdgeKind::SunkenOuter : EdgeKind::Raised);
+}
+
+void QtCanvas::DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) {
+    const QPoint corner(area.Left + (area.Width() - GlyphSize) / 2,
+                        area.Top + (area.Height() - GlyphSize) / 2);
+    const QColor ink = palette_.color(QPalette::ButtonText);
+    painter_.save();
+    painter_.setClipRect(ToQRect(area), Qt::IntersectClip);
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.translate(corner);
+    painter_.scale(0.1, 0.1);
+    painter_.fillPath(OutlineOf(glyph), look == ButtonLook::Pressed ? PressedInk(ink) : ink);
+    painter_.restore();
 }
 
 void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {

@@ -20,7 +20,8 @@ public:
     void Fill(const Rect& area, Colour colour) override;
     void Line(Point from, Point to, Colour colour) override;
     void Edge(const Rect& area, EdgeKind kind) override;
-    void PushButton(const Rect& area, bool pressed) override;
+    void PushButton(const Rect& area, ButtonLook look) override;
+    void DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) override;
     void Text(const Rect& area, std::string_view text, const TextStyle& style) override;
     void Image(const Rect& area, const Picture& picture) override;
     void PlacePicture(const Picture& picture, const PicturePlacement& placement) override;
