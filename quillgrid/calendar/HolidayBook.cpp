@@ -51,37 +51,35 @@ void HolidayBook::SettleRules() {
         HolidayAccess::Write(*list.At(i + 1), year_, ResolveRule(resolved_->Rules[i], anchors));
 }
 
-void HolidayBook::Build(std::int32_t month) {
+void HolidayBook::Build(YearDay day) {
     if (IsUntouched()) {
-        table_.BuildFrom(resolved_, year_, month);
+        table_.BuildFrom(resolved_, day);
     } else {
         link_->Settle();
-        table_.BuildFrom(*rules_, year_, month);
+        table_.BuildFrom(*rules_, day);
     }
 }
 
-void HolidayBook::Show(std::int32_t year, std::int32_t month) {
-    if (year != year_) ResolveYear(year);
-    Build(month);
+void HolidayBook::Show(YearDay day) {
+    if (day.Year != year_) ResolveYear(day.Year);
+    Build(day);
 }
 
-void HolidayBook::Resolve(std::int32_t year, std::int32_t month) {
-    ResolveYear(year);
-    Build(month);
+void HolidayBook::Resolve(YearDay day) {
+    ResolveYear(day.Year);
+    Build(day);
 }
 
-void HolidayBook::Visit(CivilDate date) {
-    if (date.Year != year_) {
-        Resolve(date.Year, date.Month);
-    } else if (!table_.IsOf(date.Year, date.Month)) {
-        Build(date.Month);
-    }
+void HolidayBook::Visit(YearDay day) {
+    if (day.Year != year_)
+        Resolve(day);
+    else if (!table_.IsOf(day.Year, DateOf(day).Month))
+        Build(day);
 }
 
-bool HolidayBook::IsHoliday(std::int32_t day) {
-    const CivilDate date = DateOf(day);
-    Visit(date);
-    return table_.IsMarked(date.Day);
+bool HolidayBook::IsHoliday(YearDay day) {
+    Visit(day);
+    return table_.IsMarked(DateOf(day).Day);
 }
 
 } // namespace quillgrid

@@ -27,13 +27,13 @@ public:
     /// The year for which the rules were last resolved, 0 before the first time. No resolution goes without
     /// building a month: an older table would outlive the rules that it came from.
     std::int32_t ResolvedYear() const { return year_; }
-    void Resolve(std::int32_t year, std::int32_t month);
-    /// Resolves the year when it is another one, and builds the month.
-    void Show(std::int32_t year, std::int32_t month);
-    /// Resolves and builds for a valid day, but only when its year or its month is another one.
-    void Visit(CivilDate date);
-    /// Whether a valid day is a holiday, visiting it.
-    bool IsHoliday(std::int32_t day);
+    void Resolve(YearDay day);
+    /// Resolves the day's year when it is another one, and builds its month.
+    void Show(YearDay day);
+    /// Resolves and builds, but only when its year or its month is another one.
+    void Visit(YearDay day);
+    /// Whether a day is a holiday, visiting it.
+    bool IsHoliday(YearDay day);
     MonthTable& Table() { return table_; }
 
     /// Whether the resolved year, and with it the table, stands as a fresh resolution would leave it, so that
@@ -52,7 +52,7 @@ private:
     }
     void TakeSnapshot();
     void ResolveYear(std::int32_t year);
-    void Build(std::int32_t month);
+    void Build(YearDay day);
     void Release();
     void SettleRules() override;
 

@@ -18,20 +18,18 @@ std::int32_t WorkCalendar::Limited(std::int32_t day) const {
 }
 
 MonthTable& WorkCalendar::ResolveHolidays(DateTime date) {
-    const CivilDate parts = DateOf(NearestValidDay(date.Day));
-    book_.Resolve(parts.Year, parts.Month);
+    book_.Resolve(YearDayOf(NearestValidDay(date.Day)));
     return book_.Table();
 }
 
 /// Other questions have left the rules at another year or month.
 void WorkCalendar::ShowCurrentMonth() {
-    const CivilDate parts = DateOf(CurrentDay());
-    book_.Show(parts.Year, parts.Month);
+    book_.Show(YearDayOf(CurrentDay()));
 }
 
 bool WorkCalendar::IsBlocked(std::int32_t day, const DayFlags& flags) {
     if (Weekend{flags.Saturday, flags.Sunday}.Blocks(day)) return true;
-    return !flags.Holiday && book_.IsHoliday(day);
+    return !flags.Holiday && book_.IsHoliday(YearDayOf(day));
 }
 
 bool WorkCalendar::IsWorkDay(std::optional<DateTime> date) {
@@ -69,8 +67,8 @@ std::int32_t WorkCalendar::StepWorkDays(std::int32_t day, std::int64_t n) {
     const std::int32_t direction = n > 0 ? 1 : -1;
     const std::int32_t limit = n > 0 ? LastDay : FirstDay;
     if (settings_.Work.Holiday) {
-        const auto found = noHolidays_.Years(WorkWeekend()).Step(YearDayOf(day), n);
-        return found ? DayOf(*found) : limit;
+        const YearDay found = noHolidays_.Years(WorkWeekend()).Step(YearDayOf(day), n);
+        return found.Year != 0 ? DayOf(found) : limit;
     }
     while (!book_.IsUniform()) {
         if (day == limit) return limit;
@@ -83,17 +81,17 @@ std::int32_t WorkCalendar::StepWorkDays(std::int32_t day, std::int64_t n) {
 
 /// Leaves the rules at the last day that going day by day would have asked about.
 std::int32_t WorkCalendar::StepKnownDays(std::int32_t day, std::int64_t n) {
-    const auto found = book_.Years(WorkWeekend()).Step(YearDayOf(day), n);
-    if (found) {
-        book_.Visit(DateOf(*found));
-        return DayOf(*found);
+    const YearDay found = book_.Years(WorkWeekend()).Step(YearDayOf(day), n);
+    if (found.Year != 0) {
+        book_.Visit(found);
+        return DayOf(found);
     }
     const std::int32_t direction = n > 0 ? 1 : -1;
     const std::int32_t limit = n > 0 ? LastDay : FirstDay;
     std::int32_t asked = limit;
     while (asked != day && WorkWeekend().Blocks(asked))
         asked -= direction;
-    if (asked != day) book_.Visit(DateOf(asked));
+    if (asked != day) book_.Visit(YearDayOf(asked));
     return limit;
 }
 
@@ -120,9 +118,9 @@ DateTime WorkCalendar::LastOfMonth(DateTime date) {
 
 std::string WorkCalendar::Dayname(DateTime date) {
     const std::int32_t day = date == DateTime{} ? CurrentDay() : NearestValidDay(date.Day);
-    const CivilDate parts = DateOf(day);
-    book_.Show(parts.Year, parts.Month);
-    const std::string& name = book_.Table().Name(parts.Day);
+    const YearDay place = YearDayOf(day);
+    book_.Show(place);
+    const std::string& name = book_.Table().Name(DateOf(place).Day);
     if (!name.empty()) return name;
     const Locale& locale = owner_ ? owner_->UserLocale() : BuiltInLocale("de-DE");
     return locale.DayNames[static_cast<std::size_t>(Weekday(day) - 1)];

@@ -5,11 +5,14 @@
 namespace quillgrid {
 
 std::int32_t WorkYears::Year::IndexOf(std::int32_t rank) const {
+    constexpr std::uint64_t ones = 0x0004'0100'4010'0401; // lowest bits of the six counts
+    constexpr std::uint64_t spare = ones << (LaneBits - 1);
     const std::int32_t inYear = rank - Rank;
-    std::size_t word = 0;
-    for (std::size_t later = 1; later < YearBits::WordCount; ++later)
-        word += Before[later] <= inYear ? 1U : 0U;
-    return static_cast<std::int32_t>(word) * 64 + PlaceOfBit(Work.Words[word], inYear - Before[word]);
+    // A spare bit survives where the count is not above `inYear`; the first always does.
+    const std::uint64_t notAbove = ((static_cast<std::uint64_t>(inYear) * ones | spare) - Before) & spare;
+    const std::uint64_t words = ((notAbove >> (LaneBits - 1)) * ones >> (5 * LaneBits)) & LaneMask;
+    const std::size_t word = static_cast<std::size_t>(words) - 1;
+    return static_cast<std::int32_t>(word) * 64 + PlaceOfBit(Work.Words[word], inYear - BeforeWord(word));
 }
 
 WorkYears::WorkYears(const HolidayMarks& marks, Weekend weekend)
@@ -28,15 +31,16 @@ void WorkYears::WorkOut(Year& year, std::int32_t number) const {
     const YearBits holidays = marks_.HolidaysOf(number);
     const YearBits sundays = weekend_.Sunday ? YearBits{} : EverySeventhDay(newYear, qgdwSunday);
     const YearBits saturdays = weekend_.Saturday ? YearBits{} : EverySeventhDay(newYear, qgdwSaturday);
-    std::uint16_t count = 0;
+    std::int32_t count = 0;
+    year.Before = 0;
     for (std::size_t i = 0; i < YearBits::WordCount; ++i) {
         std::uint64_t work = ~(holidays.Words[i] | sundays.Words[i] | saturdays.Words[i]);
         if (i + 1 == YearBits::WordCount) work &= (std::uint64_t{1} << (IsLeapYear(number) ? 46 : 45)) - 1;
         year.Work.Words[i] = work;
-        year.Before[i] = count;
-        count = static_cast<std::uint16_t>(count + CountBits(work));
+        year.Before |= static_cast<std::uint64_t>(count) << (i * LaneBits);
+        count += CountBits(work);
     }
-    year.Count = count;
+    year.Count = static_cast<std::uint16_t>(count);
     year.Known = true;
 }
 
@@ -74,8 +78,10 @@ const WorkYears::Stretch& WorkYears::Learn(std::int32_t first, std::int32_t last
     for (std::int32_t year = kept.Last + 1; year <= joined.Last; ++year)
         Make(year).Rank = At(year - 1).End();
     recent_ = static_cast<std::size_t>(from - stretches_.begin());
-    const std::int32_t days = At(joined.Last).End() - At(joined.First).Rank;
-    joined.YearsPerWorkDay = (joined.Last - joined.First + 1.0) / std::max(days, 1);
+    joined.Rank = At(joined.First).Rank;
+    joined.End = At(joined.Last).End();
+    joined.YearsPerWorkDay =
+        (std::int64_t{joined.Last - joined.First + 1} << 32) / std::max(joined.End - joined.Rank, 1);
     return *stretches_.insert(stretches_.erase(from, to), joined);
 }
 
@@ -84,45 +90,51 @@ std::int32_t WorkYears::Count(YearDay first, YearDay last) {
     return At(last.Year).RankThrough(last.Index) - At(first.Year).RankBefore(first.Index);
 }
 
-/// The year of a rank that lies within a stretch. Years hold about as many work days each: the first guess is
-/// nearly always right or next to it.
-std::int32_t WorkYears::YearOfRank(Stretch known, std::int32_t rank) {
-    const double share = (rank - At(known.First).Rank) * known.YearsPerWorkDay;
-    std::int32_t guess = std::min(known.First + static_cast<std::int32_t>(share), known.Last);
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        const Year& year = At(guess);
-        if (rank >= year.Rank && rank < year.End()) return guess;
-        guess = rank < year.Rank ? std::max(guess - 1, known.First) : std::min(guess + 1, known.Last);
-    }
-    while (known.First < known.Last) {
-        const std::int32_t middle = known.First + (known.Last - known.First) / 2;
-        if (rank < At(middle).End())
-            known.Last = middle;
-        else
-            known.First = middle + 1;
-    }
-    return known.First;
+/// The rank of the work day that lies so many after or before a day of a known year.
+std::int64_t WorkYears::Target(YearDay day, std::int64_t n) {
+    const Year& start = At(day.Year);
+    return n > 0 ? start.RankThrough(day.Index) + n - 1 : start.RankBefore(day.Index) + n;
 }
 
-std::optional<YearDay> WorkYears::Step(YearDay day, std::int64_t n) {
-    Stretch known = StretchOf(day.Year, day.Year);
+YearDay WorkYears::Step(YearDay day, std::int64_t n) {
+    const Stretch& known = StretchOf(day.Year, day.Year);
+    const std::int64_t rank = Target(day, n);
+    if (known.HasRank(rank)) return Find(known, static_cast<std::int32_t>(rank));
+    if (!Extend(day, n)) return {0, 0};
+    return Find(StretchOf(day.Year, day.Year), static_cast<std::int32_t>(Target(day, n)));
+}
+
+/// Learns year after year until the day looked for is among them. False when the calendar ends first.
+bool WorkYears::Extend(YearDay day, std::int64_t n) {
     for (;;) {
-        // Anew in each turn: a stretch that was joined may count from elsewhere.
-        const Year& start = At(day.Year);
-        const std::int64_t rank =
-            n > 0 ? start.RankThrough(day.Index) + n - 1 : start.RankBefore(day.Index) + n;
-        if (rank >= At(known.Last).End()) {
-            if (known.Last == LastYear) return std::nullopt;
-            known = Learn(known.Last + 1, known.Last + 1);
-        } else if (rank < At(known.First).Rank) {
-            if (known.First == FirstYear) return std::nullopt;
-            known = Learn(known.First - 1, known.First - 1);
-        } else {
-            const auto target = static_cast<std::int32_t>(rank);
-            const std::int32_t year = YearOfRank(known, target);
-            return YearDay{year, At(year).IndexOf(target)};
-        }
+        const Stretch known = StretchOf(day.Year, day.Year);
+        const std::int64_t rank = Target(day, n); // a stretch that was joined may count from elsewhere
+        if (known.HasRank(rank)) return true;
+        const std::int32_t year = rank >= known.End ? known.Last + 1 : known.First - 1;
+        if (year < FirstYear || year > LastYear) return false;
+        Learn(year, year);
     }
+}
+
+/// Years hold about as many work days each: the first guess is nearly always right.
+YearDay WorkYears::Find(const Stretch& known, std::int32_t rank) {
+    const std::int64_t share = (rank - known.Rank) * known.YearsPerWorkDay >> 32;
+    std::int32_t year = known.First + static_cast<std::int32_t>(share);
+    if (rank < At(year).Rank || rank >= At(year).End()) year = SearchYear(known, rank);
+    return {year, At(year).IndexOf(rank)};
+}
+
+std::int32_t WorkYears::SearchYear(const Stretch& known, std::int32_t rank) {
+    std::int32_t low = known.First;
+    std::int32_t high = known.Last;
+    while (low < high) {
+        const std::int32_t middle = low + (high - low) / 2;
+        if (rank < At(middle).End())
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return low;
 }
 
 } // namespace quillgrid

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace quillgrid {
@@ -32,17 +31,21 @@ public:
 
     /// Work days from `first` to `last`, both included, `first` not after `last`.
     std::int32_t Count(YearDay first, YearDay last);
-    /// The n-th work day after `day`, or before it for a negative n. Nothing when the calendar ends earlier;
-    /// n is not 0.
-    std::optional<YearDay> Step(YearDay day, std::int64_t n);
+    /// The n-th work day after `day`, or before it for a negative n, which is not 0. Year 0 when the calendar
+    /// ends earlier: what does not fit a register would cost more here than finding the day.
+    YearDay Step(YearDay day, std::int64_t n);
 
 private:
+    // Six counts of at most 320, each with a bit to spare for comparing all of them at once.
+    static constexpr std::size_t LaneBits = 10;
+    static constexpr std::uint64_t LaneMask = (std::uint64_t{1} << LaneBits) - 1;
+
     struct Year {
         YearBits Work;
-        std::array<std::uint16_t, YearBits::WordCount> Before{}; ///< work days ahead of each word
+        std::uint64_t Before = 0; ///< work days of the year ahead of each word, one after the other
+        std::int32_t Rank = 0;    ///< work days ahead of the year, counted from somewhere in its stretch
         std::uint16_t Count = 0;
         bool Known = false;
-        std::int32_t Rank = 0; ///< work days ahead of the year, counted from somewhere in its stretch
 
         /// Work days ahead of a day, or up to and with it.
         std::int32_t RankBefore(std::int32_t index) const {
@@ -57,7 +60,10 @@ private:
     private:
         std::int32_t RankOf(std::int32_t index, std::uint64_t counted) const {
             const auto word = static_cast<std::size_t>(index) / 64;
-            return Rank + Before[word] + CountBits(Work.Words[word] & counted);
+            return Rank + BeforeWord(word) + CountBits(Work.Words[word] & counted);
+        }
+        std::int32_t BeforeWord(std::size_t word) const {
+            return static_cast<std::int32_t>(Before >> (word * LaneBits) & LaneMask);
         }
     };
     static constexpr std::int32_t PageSize = 32;
@@ -65,7 +71,11 @@ private:
     struct Stretch {
         std::int32_t First;
         std::int32_t Last;
-        double YearsPerWorkDay = 0.0; ///< on average
+        std::int32_t Rank = 0;            ///< of its first day
+        std::int32_t End = 0;             ///< one more than the rank of its last work day
+        std::int64_t YearsPerWorkDay = 0; ///< on average, in parts of 2^32
+
+        bool HasRank(std::int64_t rank) const { return rank >= Rank && rank < End; }
     };
 
     Year& At(std::int32_t year) {
@@ -76,7 +86,10 @@ private:
     void WorkOut(Year& year, std::int32_t number) const;
     const Stretch& StretchOf(std::int32_t first, std::int32_t last);
     const Stretch& Learn(std::int32_t first, std::int32_t last);
-    std::int32_t YearOfRank(Stretch known, std::int32_t rank);
+    std::int64_t Target(YearDay day, std::int64_t n);
+    bool Extend(YearDay day, std::int64_t n);
+    YearDay Find(const Stretch& known, std::int32_t rank);
+    std::int32_t SearchYear(const Stretch& known, std::int32_t rank);
 
     const HolidayMarks& marks_;
     Weekend weekend_;
