@@ -64,6 +64,7 @@ void ChooseTemplate(ColumnRule& rule, const QString& text, bool booleansAsNumber
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < qgctNone || number > qgctNumber || rule.Template == number) return;
     const auto wanted = static_cast<CellTemplateConstants>(number);
+    if (wanted == qgctlist && rule.Choices.isEmpty()) return; // nothing to choose from
     const auto kind = KindIn(wanted, rule.Kind, booleansAsNumbers);
     if (!kind) return;
     // Limits of the column stay as long as they speak of the same kind of value.

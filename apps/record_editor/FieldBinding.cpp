@@ -101,8 +101,9 @@ void FieldBinding::DefineCell(bool mayBeNothing) {
 }
 
 void FieldBinding::DefineKind() {
-    if (const auto rule = RuleFor(rule_.Kind); rule && !MeansTheSame(*rule, cell_->ValidationRule()))
-        cell_->SetValidationRule(*rule);
+    const auto check = RuleFor(rule_.Kind);
+    if (check && !IsList() && !MeansTheSame(*check, cell_->ValidationRule()))
+        cell_->SetValidationRule(*check);
     if (!rule_.Min.IsNull()) cell_->SetMin(rule_.Min);
     if (!rule_.Max.IsNull()) cell_->SetMax(rule_.Max);
     if (rule_.Kind == ValueKind::Text) cell_->SetMaxLength(LongestText());

@@ -162,6 +162,17 @@ TEST(DataDictionary, TemplatesDressValuesUpAndReadThemBack) {
     EXPECT_EQ(form.At("word").Template(), qgctPassword) << "unfit secrets are masked too";
 }
 
+TEST(DataDictionary, ListsStayListsAndAreNotMadeOutOfNothing) {
+    Form form(Described("id INTEGER PRIMARY KEY, n INTEGER CHECK (n IN (1, 2)), s TEXT", "1, 2, 'free'",
+                        "Template INTEGER, Alignment INTEGER", "('t', 'n', 0, 2), ('t', 's', 16, 1)"));
+    ASSERT_TRUE(form.Shown->Show(0));
+    EXPECT_EQ(form.At("n").ListIndex(), 2);
+    EXPECT_EQ(form.At("n").Alignment(), qgalCenter);
+    EXPECT_EQ(form.At("n").ValidationRule(), qgvrNone) << "entries are not checked as typed numbers are";
+    EXPECT_EQ(form.At("s").Style(), qgcsText);
+    EXPECT_TRUE(form.Binding("s").Fits());
+}
+
 TEST(DataDictionary, DefaultsOfNewRecordsAreWritten) {
     Form form(
         Described("id INTEGER PRIMARY KEY, a TEXT, n INTEGER DEFAULT 7, m INTEGER DEFAULT 8, b BOOLEAN, "
