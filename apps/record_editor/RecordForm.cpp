@@ -172,7 +172,7 @@ Outcome<Done> RecordForm::Save() {
     const auto changes = Changes();
     if (!changes) return changes.Reason();
     if (isNew_) return Insert(*changes);
-    if (const auto saved = store_.Update(position_, *changes); !saved) return saved;
+    if (auto saved = store_.Update(position_, *changes); !saved) return saved;
     return Show(position_);
 }
 
