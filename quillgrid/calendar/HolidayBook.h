@@ -11,10 +11,10 @@ namespace quillgrid {
 /// A calendar's rules, resolved for one year at a time and condensed for one month at a time. Changed rules
 /// and user dates show only when the next year is resolved or the next month built: whoever counts days must
 /// go through the same years and months, or ask `IsUniform` whether that would make no difference.
-class HolidayBook : private RuleSettler {
+class HolidayBook final : private RuleSettler {
 public:
     HolidayBook() = default;
-    ~HolidayBook();
+    ~HolidayBook() override;
     HolidayBook(const HolidayBook&) = delete;
     HolidayBook& operator=(const HolidayBook&) = delete;
 

@@ -8,10 +8,8 @@ namespace quillgrid {
 /// Whoever still has to write the dates of a resolution into the rules.
 class RuleSettler {
 public:
+    virtual ~RuleSettler() = default;
     virtual void SettleRules() = 0;
-
-protected:
-    ~RuleSettler() = default;
 };
 
 /// What a collection, its rules and the calendars that resolve them share. Most resolutions are overtaken by

@@ -69,8 +69,8 @@ private:
     static constexpr std::int32_t PageSize = 32;
     using Page = std::array<Year, PageSize>;
     struct Stretch {
-        std::int32_t First;
-        std::int32_t Last;
+        std::int32_t First = 0;
+        std::int32_t Last = 0;
         std::int32_t Rank = 0;            ///< of its first day
         std::int32_t End = 0;             ///< one more than the rank of its last work day
         std::int64_t YearsPerWorkDay = 0; ///< on average, in parts of 2^32

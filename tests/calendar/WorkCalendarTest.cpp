@@ -204,9 +204,11 @@ TEST_F(WorkCalendarTest, ReloadingAlwaysGivesFreshRules) {
     check([&] { calendar.Holidays()->Remove("Neujahr"); });
     check([&] { calendar.Holidays()->Clear(); });
     check([&] { calendar.SetHolidays(std::make_shared<Holidays>()); });
+    calendar.SetAutoHolidays(qgahdGermany);
     const auto held = rule("Neujahr");
     calendar.SetAutoHolidays(qgahdGermany);
-    check([&] { held->SetEnabled(false); });
+    held->SetEnabled(false); // no longer a rule of this calendar
+    EXPECT_FALSE(calendar.IsWorkDay(On(2029, 1, 1)));
     EXPECT_NE(rule("Neujahr"), held);
     calendar.Settings().ConfigGermany = "0";
     calendar.SetAutoHolidays(qgahdGermany);
