@@ -31,9 +31,7 @@ private:
 } // namespace
 
 InputContext CellCommit::Context() const {
-    const GridSettings& settings = state_.Settings;
-    return {
-        {settings.NumSeparators, settings.DateSeparators, settings.TimeSeparators}, locale_, time_.Now().Day};
+    return {separators_.Get(), locale_, time_.Now().Day};
 }
 
 CommitResult CellCommit::Commit() {

@@ -5,6 +5,7 @@
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/RepaintRequests.h"
+#include "quillgrid/grid/TypedSeparators.h"
 #include "quillgrid/locale/Locale.h"
 #include "quillgrid/platform/Clock.h"
 
@@ -24,13 +25,20 @@ class CellCommit {
 public:
     CellCommit(GridState& state, EditSeat& seat, GridEvents& events, RepaintRequests& repaint,
                const Locale& locale, const Clock& time)
-        : state_(state), seat_(seat), events_(events), repaint_(repaint), locale_(locale), time_(time) {}
+        : state_(state),
+          seat_(seat),
+          events_(events),
+          repaint_(repaint),
+          locale_(locale),
+          time_(time),
+          separators_(state.Settings, locale) {}
 
     /// A commit within a commit (a handler's message box takes the focus) does nothing.
     CommitResult Commit();
     /// Commits and, unless cancelled, shows the value as the cell formats it.
     CommitResult CommitInPlace();
 
+    /// Its separators hold until the next call.
     InputContext Context() const;
 
 private:
@@ -49,6 +57,7 @@ private:
     RepaintRequests& repaint_;
     const Locale& locale_;
     const Clock& time_;
+    TypedSeparators separators_;
 };
 
 } // namespace quillgrid

@@ -147,7 +147,7 @@ bool CellEditor::TypeIntoList(const Cell& cell, char32_t character) {
 bool CellEditor::TypeIntoText(const Cell& cell, char32_t& character) {
     if (!IsEditable(cell, state_.Settings.UserLevel)) return Refuse();
     if (character == Space && PressSpace(cell)) return true;
-    const std::string filter = KeyFilterOf(cell, state_.Settings, locale_);
+    const std::string filter = KeyFilterOf(cell, commit_.Context().Separators, locale_);
     if (!filter.empty() && TypeThroughFilter(cell, filter, character)) return true;
     if (IsFull(cell)) return Refuse();
     if (filter.empty()) {

@@ -83,10 +83,6 @@ void GridCore::UndoAll() {
         cell->Undo();
 }
 
-InputSeparators GridCore::Separators() const {
-    return {State.Settings.NumSeparators, State.Settings.DateSeparators, State.Settings.TimeSeparators};
-}
-
 CellDefaults GridCore::Defaults() const {
     const GridSettings& settings = State.Settings;
     return {settings.CellForeColor, settings.FillColor, settings.CellFont.Bold, settings.CellFont.Italic};

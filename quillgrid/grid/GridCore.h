@@ -22,6 +22,7 @@
 #include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/RowSelector.h"
 #include "quillgrid/grid/SampleCells.h"
+#include "quillgrid/grid/TypedSeparators.h"
 #include "quillgrid/grid/ValueStepper.h"
 #include "quillgrid/grid/Viewport.h"
 
@@ -53,6 +54,7 @@ public:
     const GridPorts& Ports() const { return ports_; }
 
     GridState State;
+    TypedSeparators Typed{State.Settings, ports_.UserLocale};
     class Cells Cells;
     class Groups Groups;
     class Columns Columns;
@@ -77,7 +79,7 @@ public:
 
     const Locale& UserLocale() const override { return ports_.UserLocale; }
     LanguageConstants Language() const override { return State.Settings.Language; }
-    InputSeparators Separators() const override;
+    InputSeparators Separators() const override { return Typed.Get(); }
     CellDefaults Defaults() const override;
     bool UserMode() const override { return State.UserMode; }
     const Clock& Time() const override { return ports_.Time; }

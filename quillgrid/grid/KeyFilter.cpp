@@ -16,14 +16,15 @@ std::string WithMinus(const Cell& cell, const Locale& locale, const std::string&
 
 } // namespace
 
-std::string KeyFilterOf(const Cell& cell, const GridSettings& settings, const Locale& locale) {
+std::string KeyFilterOf(const Cell& cell, const InputSeparators& separators, const Locale& locale) {
+    const auto digitsAnd = [](std::string_view marks) { return std::string(Digits).append(marks); };
     switch (cell.ValidationRule()) {
     case qgvrInteger: return WithMinus(cell, locale, Digits);
     case qgvrCurrency:
     case qgvrEuro:
-    case qgvrDouble: return WithMinus(cell, locale, Digits + settings.NumSeparators);
-    case qgvrDate: return Digits + settings.DateSeparators;
-    case qgvrTime: return Digits + settings.TimeSeparators;
+    case qgvrDouble: return WithMinus(cell, locale, digitsAnd(separators.Number));
+    case qgvrDate: return digitsAnd(separators.Date);
+    case qgvrTime: return digitsAnd(separators.Time);
     default: return cell.Charlist();
     }
 }

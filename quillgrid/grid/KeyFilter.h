@@ -1,7 +1,7 @@
 #pragma once
 
 #include "quillgrid/cells/Cell.h"
-#include "quillgrid/grid/GridSettings.h"
+#include "quillgrid/cells/InputConversion.h"
 #include "quillgrid/locale/Locale.h"
 
 #include <string>
@@ -9,7 +9,7 @@
 namespace quillgrid {
 
 /// The characters that may be typed into the cell; empty allows all.
-std::string KeyFilterOf(const Cell& cell, const GridSettings& settings, const Locale& locale);
+std::string KeyFilterOf(const Cell& cell, const InputSeparators& separators, const Locale& locale);
 
 /// The character as the cell's case rule wants it, typed after `before` (the text left of the caret).
 char32_t CaseOf(char32_t character, CharCaseConstants rule, std::string_view before);
