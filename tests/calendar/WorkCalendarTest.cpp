@@ -157,6 +157,24 @@ TEST_F(WorkCalendarTest, SearchesEndWhenNothingIsAllowed) {
     EXPECT_EQ(calendar.WorkDayAdd(On(2024, 6, 1), -1).Day, FirstDay);
 }
 
+TEST_F(WorkCalendarTest, TenYearsAreSearchedAndNoMore) {
+    BlockEverything();
+    for (const auto& rule : *calendar.Holidays())
+        rule->SetLastYear(2040);
+    calendar.ResolveHolidays(calendar.CurrentDate());
+    EXPECT_EQ(calendar.NearestAllowedDate(On(2026, 3, 3)), On(2026, 3, 3)); // nor from MaxDate back
+    EXPECT_EQ(calendar.NearestAllowedDate(On(2032, 3, 3)), On(2041, 1, 1));
+}
+
+TEST_F(WorkCalendarTest, AddingLeavesTheRulesAtTheLastDayAsked) {
+    calendar.WorkDayAdd(On(2024, 12, 6), 250);
+    EXPECT_EQ(calendar.Easter(), On(2025, 4, 20));
+    calendar.WorkDayAdd(On(2024, 12, 6), INT32_MAX);
+    EXPECT_EQ(PartsFromDay(calendar.Easter().Day).Year, 9999);
+    calendar.WorkDayDiff(On(1900, 1, 1), On(1900, 2, 1)); // counting comes back
+    EXPECT_EQ(calendar.Easter(), On(2024, 3, 31));
+}
+
 TEST_F(WorkCalendarTest, CurrentDateIsAssignedThroughTheSearch) {
     listener.Take();
     calendar.SetAllowSaturday(false);
