@@ -53,12 +53,20 @@ bool CellEditor::Move(const Cell& cell, std::int32_t keyCode, std::int32_t shift
     case KeyPageDown: navigator_.ByPages(1); return true;
     case KeyPageUp: navigator_.ByPages(-1); return true;
     case KeyLeft:
-    case KeyRight: return !IsHeading(cell) && cell.Style() != qgcsText;
+    case KeyRight: return MoveSideways(cell, keyCode == KeyRight);
     case KeyTab: return (shift & ShiftControl) == 0 && navigator_.NextByTab((shift & ShiftShift) != 0);
     case KeyHome:
     case KeyEnd: return MoveToEnd(cell, keyCode, shift);
     default: return false;
     }
+}
+
+/// The caret moves in text only. Beside the group margin the keys fold groups, towards the rows to expand.
+bool CellEditor::MoveSideways(const Cell& cell, bool right) {
+    if (!IsHeading(cell)) return cell.Style() != qgcsText;
+    if (!state_.Settings.ShowGroupBox) return false;
+    folding_.SetExpanded(cell, right != state_.Layout.LabelsRight);
+    return true;
 }
 
 bool CellEditor::MoveToEnd(const Cell& cell, std::int32_t keyCode, std::int32_t shift) {

@@ -5,6 +5,7 @@
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
+#include "quillgrid/grid/GroupFolding.h"
 #include "quillgrid/grid/Navigator.h"
 #include "quillgrid/grid/ValueStepper.h"
 
@@ -15,13 +16,15 @@ namespace quillgrid {
 class CellEditor {
 public:
     CellEditor(GridState& state, EditSeat& seat, CellCommit& commit, Navigator& navigator,
-               ValueStepper& stepper, GridRefresh& refresh, GridEvents& events, const Locale& locale)
+               ValueStepper& stepper, GridRefresh& refresh, GroupFolding& folding, GridEvents& events,
+               const Locale& locale)
         : state_(state),
           seat_(seat),
           commit_(commit),
           navigator_(navigator),
           stepper_(stepper),
           refresh_(refresh),
+          folding_(folding),
           events_(events),
           locale_(locale) {}
 
@@ -37,6 +40,7 @@ public:
 private:
     bool HandleKeyDown(const Cell& cell, std::int32_t keyCode, std::int32_t shift);
     bool Move(const Cell& cell, std::int32_t keyCode, std::int32_t shift);
+    bool MoveSideways(const Cell& cell, bool right);
     bool MoveToEnd(const Cell& cell, std::int32_t keyCode, std::int32_t shift);
     bool PressF4(const Cell& cell);
     bool RefusePaste();
@@ -60,6 +64,7 @@ private:
     Navigator& navigator_;
     ValueStepper& stepper_;
     GridRefresh& refresh_;
+    GroupFolding& folding_;
     GridEvents& events_;
     const Locale& locale_;
 };

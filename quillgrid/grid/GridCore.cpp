@@ -19,14 +19,19 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       Seat(State, ports_.Editor, ports_.Window, ports_.Images),
       Commit(State, Seat, Events, Repaint, ports_.UserLocale, ports_.Time),
       Selector(State, Commit, Seat, View, Events, Repaint),
+      Keys(State, Selector, ports_.Container),
       Navigator(State, Commit, Selector, View, Seat, Events),
       Stepper(State, Commit, Seat, Events, ports_.UserLocale),
-      Refresher(State, ports_, Cells, Groups, Samples, Commit, Seat, View, Repaint),
+      Refresher(State, ports_, Cells, Groups, Samples, Keys, Commit, Seat, View, Repaint),
+      Folding(State, Groups, Refresher),
+      Spin(State, Stepper, ports_.Time),
       Setter(State, ports_, Cells, Samples, Refresher, Selector, View),
       Sheets(State, Setter, ports_.UserLocale),
       Lifecycle(State, ports_, Samples, Refresher, Setter),
-      Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Events, ports_.UserLocale),
-      Mouse(State, Selector, Editor, Events, ports_.Images),
+      Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Folding, Events, ports_.UserLocale),
+      Mouse(State, {Selector, Editor, Spin, Folding, Events, Repaint}, ports_.Window, ports_.Container,
+            ports_.Images),
+      Drops(State, Selector, Commit, Stepper, Seat),
       Records(State, Cells, Seat, Repaint),
       Painter(State, Groups, ports_.Images) {
     State.UserMode = ports_.Container.UserMode();
@@ -36,6 +41,7 @@ void GridCore::Terminate() {
     if (State.Terminated) return;
     Events.Terminate();
     State.CommitBusy = true; // a focus that moves now takes nothing over
+    Spin.Stop();
     Seat.Hide();
     State.Terminated = true;
     ImageList.SetSource(nullptr);
@@ -61,6 +67,7 @@ void GridCore::FocusGained() {
 
 void GridCore::FocusLost() {
     if (State.Terminated || State.CommitBusy || !State.UserMode) return;
+    Spin.Stop();
     const FlagGuard leaving(State.LeavingFocus);
     const CommitResult result = Commit.Commit();
     if (result == CommitResult::Gone) return;
@@ -71,6 +78,7 @@ void GridCore::FocusLost() {
     State.Left = true;
     Seat.Hide();
     Repaint.Row(State.CurrentRow);
+    Repaint.Tips();
 }
 
 void GridCore::AcceptAll() {

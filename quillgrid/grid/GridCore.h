@@ -7,6 +7,7 @@
 #include "quillgrid/cells/ImageList.h"
 #include "quillgrid/grid/CellCommit.h"
 #include "quillgrid/grid/CellEditor.h"
+#include "quillgrid/grid/DropTarget.h"
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridLifecycle.h"
@@ -45,7 +46,7 @@ public:
     /// Undo values become the present ones, or the other way round.
     void AcceptAll();
     void UndoAll();
-    std::shared_ptr<Properties> GridSheet() { return Sheets.GridSheet(weak_from_this()); }
+    std::shared_ptr<Properties> GridSheet() { return Sheets.GridSheet(); }
 
 private:
     const GridPorts ports_;
@@ -66,14 +67,18 @@ public:
     EditSeat Seat;
     CellCommit Commit;
     RowSelector Selector;
+    AccessKeys Keys;
     class Navigator Navigator;
     ValueStepper Stepper;
     GridRefresh Refresher;
+    GroupFolding Folding;
+    SpinRepeater Spin;
     PropertySetter Setter;
     PropertySheets Sheets;
     GridLifecycle Lifecycle;
     CellEditor Editor;
     MouseController Mouse;
+    DropTarget Drops;
     RecordBinding Records;
     GridPainter Painter;
 
@@ -99,10 +104,8 @@ public:
     void RepaintRow(Cell& cell) override;
     void ValueUndone(Cell& cell) override;
     void FocusCell(Cell& cell) override;
-    std::shared_ptr<Properties> CellSheet() override { return Sheets.CellSheet(weak_from_this()); }
-    void DefineCurrentCell(const Record& record) override {
-        Sheets.DefineCurrentCell(record, weak_from_this());
-    }
+    std::shared_ptr<Properties> CellSheet() override { return Sheets.CellSheet(); }
+    void DefineCurrentCell(const Record& record) override { Sheets.DefineCurrentCell(record); }
 };
 
 } // namespace quillgrid

@@ -38,7 +38,7 @@ void GridEvents::SelChange(Cell& cell) {
 
 void GridEvents::Change(Cell& cell) {
     if (!events_ || state_.Silent || !state_.Current) return;
-    if (state_.LeavingFocus || window_.HasFocus()) events_->Change.Raise(cell);
+    if (state_.LeavingFocus || state_.Dropping || window_.HasFocus()) events_->Change.Raise(cell);
 }
 
 void GridEvents::Beep() {
@@ -65,6 +65,14 @@ void GridEvents::KeyUp(Cell& cell, std::int32_t& keyCode, std::int32_t& shift) {
 
 void GridEvents::LeaveFocus(Cell& cell) {
     if (events_) events_->LeaveFocus.Raise(cell);
+}
+
+void GridEvents::CloseBoxClick() {
+    if (events_) events_->CloseBoxClick.Raise();
+}
+
+void GridEvents::MenuClick(float x, float y) {
+    if (events_) events_->MenuClick.Raise(x, y);
 }
 
 void GridEvents::ImageClick(Cell& cell) {

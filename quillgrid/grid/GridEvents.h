@@ -32,6 +32,8 @@ public:
     void KeyUp(Cell& cell, std::int32_t& keyCode, std::int32_t& shift);
     void LeaveFocus(Cell& cell);
     void ImageClick(Cell& cell);
+    void CloseBoxClick();
+    void MenuClick(float x, float y);
 
 private:
     GridState& state_;

@@ -20,7 +20,7 @@ struct GridPorts {
     ScrollBar& Bar;
     Site& Container;
     const TextMetrics& Metrics;
-    const Clock& Time;
+    Clock& Time;
     const Theme& Desktop;
     Locale UserLocale;
     ImageSource* Images = nullptr;

@@ -54,6 +54,7 @@ void GridRefresh::SetCurrent(const std::shared_ptr<Cell>& kept) {
 }
 
 void GridRefresh::LayOut() {
+    keys_.Update();
     state_.Colours = ColoursOf(state_.Settings);
     ports_.Window.SetBackColour(state_.Colours.Background);
     state_.Layout = Layout(state_.Settings, Measure());
@@ -94,8 +95,22 @@ std::int32_t GridRefresh::WidestCaption() {
 }
 
 void GridRefresh::Resize() {
-    if (ports_.Window.InnerSize() != Size{state_.Layout.Control.Right, state_.Layout.Control.Bottom})
-        Refresh();
+    if (state_.ResizeBusy || state_.Terminated) return;
+    const Size size = ports_.Window.InnerSize();
+    if (size == state_.RecordedSize) return;
+    state_.RecordedSize = size;
+    if (!state_.Ready) return;
+    EnforceMinimum(size);
+    Refresh();
+}
+
+/// The container may refuse; then the control makes do with what it has.
+void GridRefresh::EnforceMinimum(Size size) {
+    const Size least = MinimumSizeOf(state_.Settings);
+    if (size.Width >= least.Width && size.Height >= least.Height) return;
+    const FlagGuard busy(state_.ResizeBusy);
+    ports_.Window.Resize(least);
+    if (!state_.Terminated) state_.RecordedSize = ports_.Window.InnerSize();
 }
 
 } // namespace quillgrid

@@ -2,6 +2,7 @@
 
 #include "quillgrid/cells/Cells.h"
 #include "quillgrid/cells/Groups.h"
+#include "quillgrid/grid/AccessKeys.h"
 #include "quillgrid/grid/CaptionWidths.h"
 #include "quillgrid/grid/CellCommit.h"
 #include "quillgrid/grid/EditSeat.h"
@@ -17,13 +18,14 @@ namespace quillgrid {
 class GridRefresh {
 public:
     GridRefresh(GridState& state, const GridPorts& ports, const Cells& cells, const Groups& groups,
-                SampleCells& samples, CellCommit& commit, EditSeat& seat, Viewport& view,
+                SampleCells& samples, AccessKeys& keys, CellCommit& commit, EditSeat& seat, Viewport& view,
                 RepaintRequests& repaint)
         : state_(state),
           ports_(ports),
           cells_(cells),
           groups_(groups),
           samples_(samples),
+          keys_(keys),
           widths_(ports.Metrics),
           commit_(commit),
           seat_(seat),
@@ -40,6 +42,7 @@ private:
     void Sort();
     void SetCurrent(const std::shared_ptr<Cell>& kept);
     void LayOut();
+    void EnforceMinimum(Size size);
     LayoutMeasures Measure();
     std::int32_t WidestCaption();
 
@@ -48,6 +51,7 @@ private:
     const Cells& cells_;
     const Groups& groups_;
     SampleCells& samples_;
+    AccessKeys& keys_;
     CaptionWidths widths_;
     CellCommit& commit_;
     EditSeat& seat_;

@@ -29,10 +29,12 @@ struct GridState {
     GridSettings Settings;
     SortedCells Rows;
     std::shared_ptr<Cell> Current;
-    Cell* Working = nullptr; ///< the cell whose input is being converted stands in for the current one
+    std::weak_ptr<const void> Self; ///< the control as a whole, to be held by what it calls back from outside
+    Cell* Working = nullptr;        ///< the cell whose input is being converted stands in for the current one
     std::int32_t CurrentRow = 0;
     std::int32_t FirstVisible = 1;
     GridLayout Layout;
+    Size RecordedSize; ///< of the surface, as of the last Resize
     EffectiveColours Colours;
     MousePart Hot;     ///< under the pointer
     MousePart Pressed; ///< held down
@@ -44,7 +46,9 @@ struct GridState {
     bool RefreshBusy = false;
     bool CommitBusy = false;
     bool LeavingFocus =
-        false;               ///< the focus is just going: what the commit changes still counts as the user's
+        false;             ///< the focus is just going: what the commit changes still counts as the user's
+    bool Dropping = false; ///< something is dropped on a cell: that counts as the user's too
+    bool ResizeBusy = false;
     bool Left = false;       ///< the focus has gone: the edit box stays hidden until it is back
     bool Terminated = false; ///< the control is gone; only the calls under way still see this state
 

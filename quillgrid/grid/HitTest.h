@@ -7,11 +7,12 @@
 
 namespace quillgrid {
 
-enum class HitPlace : std::uint8_t { Nowhere, Label, Value };
+/// `Strip` is the right-hand part of a value, where a button stands if the cell has one.
+enum class HitPlace : std::uint8_t { Nowhere, Label, Value, Strip, CloseBox, MenuBox, GroupMargin };
 
 struct Hit {
     HitPlace Place = HitPlace::Nowhere;
-    std::int32_t Row = 0; ///< 1-based, 0 for Nowhere
+    std::int32_t Row = 0; ///< 1-based; 0 where there is none
 
     friend bool operator==(const Hit&, const Hit&) = default;
 };

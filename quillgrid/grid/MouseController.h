@@ -3,30 +3,61 @@
 #include "quillgrid/grid/CellEditor.h"
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridState.h"
+#include "quillgrid/grid/GroupFolding.h"
+#include "quillgrid/grid/HitTest.h"
+#include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/RowSelector.h"
+#include "quillgrid/grid/SpinRepeater.h"
 #include "quillgrid/platform/ImageSource.h"
+#include "quillgrid/platform/Site.h"
+#include "quillgrid/platform/Surface.h"
 
 namespace quillgrid {
 
 /// What the mouse does.
 class MouseController {
 public:
-    MouseController(const GridState& state, RowSelector& selector, CellEditor& editor, GridEvents& events,
-                    const ImageSource* images)
-        : state_(state), selector_(selector), editor_(editor), events_(events), images_(images) {}
+    struct Partners {
+        RowSelector& Selector;
+        CellEditor& Editor;
+        SpinRepeater& Spin;
+        GroupFolding& Folding;
+        GridEvents& Events;
+        RepaintRequests& Repaint;
+    };
 
-    /// Selects the row; on the image of a value toggles a boolean or raises ImageClick.
+    MouseController(GridState& state, const Partners& partners, Surface& window, const Site& site,
+                    const ImageSource* images)
+        : state_(state), with_(partners), window_(window), site_(site), images_(images) {}
+
+    /// The left button went down.
     void Press(Point position);
+    /// The left button came up.
+    void Release(Point position);
+    /// The pointer moved, with or without a button held.
+    void Move(Point position, bool buttonHeld);
+    /// The pointer left the surface.
+    void Leave();
     /// In the edit box: as F4.
     void DoubleClick();
 
 private:
+    Hit HitAt(Point position) const;
+    void PressRow(const Hit& hit, Point position);
+    void PressImage(const std::shared_ptr<Cell>& cell);
+    void PressButton(const std::shared_ptr<Cell>& cell, Point position);
+    void ToggleGroup(std::int32_t row);
+    void SetPressed(const MousePart& part);
+    void SetHot(const MousePart& part);
+    void RepaintPart(const MousePart& part);
+    MousePart PartAt(const Hit& hit) const;
     bool IsOnImage(const Cell& cell, std::int32_t row, Point position) const;
+    bool HasGroup(std::int32_t row) const;
 
-    const GridState& state_;
-    RowSelector& selector_;
-    CellEditor& editor_;
-    GridEvents& events_;
+    GridState& state_;
+    Partners with_;
+    Surface& window_;
+    const Site& site_;
     const ImageSource* images_;
 };
 

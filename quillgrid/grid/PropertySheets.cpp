@@ -14,35 +14,36 @@ void RefuseUnless(bool converted) {
 
 } // namespace
 
-std::shared_ptr<Properties> PropertySheets::GridSheet(const Holder& holder) {
+std::shared_ptr<Properties> PropertySheets::GridSheet() {
     if (!std::exchange(grid_.Built, true)) {
         for (const std::uint8_t row : SheetOrder)
             grid_.List->Add({.Key = std::string(PropertyAt(row).Name)});
-        Listen(grid_, holder, &PropertySheets::WriteGrid, &PropertySheets::ReadGrid);
+        Listen(grid_, &PropertySheets::WriteGrid, &PropertySheets::ReadGrid);
     }
     return grid_.List;
 }
 
-std::shared_ptr<Properties> PropertySheets::CellSheet(const Holder& holder) {
+std::shared_ptr<Properties> PropertySheets::CellSheet() {
     if (!std::exchange(cell_.Built, true)) {
         for (const CellProperty& property : ListedCellProperties())
             cell_.List->Add({.Key = std::string(property.Name)});
-        Listen(cell_, holder, &PropertySheets::WriteCell, &PropertySheets::ReadCell);
+        Listen(cell_, &PropertySheets::WriteCell, &PropertySheets::ReadCell);
     }
     return cell_.List;
 }
 
-void PropertySheets::Listen(Sheet& sheet, const Holder& holder, Handler written, Handler read) {
-    sheet.List->SelChange.Listen([this, &sheet, holder, written, read](Property& item) {
-        if (const auto held = holder.lock()) Hear(sheet, item, holder, written, read);
+// Whoever works on a sheet need not hold the control.
+void PropertySheets::Listen(Sheet& sheet, Handler written, Handler read) {
+    sheet.List->SelChange.Listen([this, &sheet, control = state_.Self, written, read](Property& item) {
+        if (const auto held = control.lock()) Hear(sheet, item, written, read);
     });
 }
 
-void PropertySheets::Hear(Sheet& sheet, Property& item, const Holder& holder, Handler written, Handler read) {
+void PropertySheets::Hear(Sheet& sheet, Property& item, Handler written, Handler read) {
     if (state_.Terminated) return;
-    const auto carry = [this, holder](Handler handler) {
-        return [this, holder, handler](const std::string& name, Variant& value) {
-            const auto held = holder.lock();
+    const auto carry = [this](Handler handler) {
+        return [this, control = state_.Self, handler](const std::string& name, Variant& value) {
+            const auto held = control.lock();
             if (held && !state_.Terminated) (this->*handler)(name, value);
         };
     };
@@ -77,10 +78,10 @@ std::shared_ptr<Cell> PropertySheets::CurrentCell() const {
     return state_.Working ? state_.Working->shared_from_this() : state_.Current;
 }
 
-void PropertySheets::DefineCurrentCell(const Record& record, const Holder& holder) {
-    const auto held = holder.lock();
+void PropertySheets::DefineCurrentCell(const Record& record) {
+    const auto held = state_.Self.lock();
     const FlagGuard silent(state_.Silent, true, false);
-    const auto sheet = CellSheet(holder);
+    const auto sheet = CellSheet();
     for (std::int32_t position = 1; position <= sheet->Count(); ++position) {
         const std::string name = sheet->At(static_cast<std::size_t>(position))->Key();
         auto value = record.Field(name);

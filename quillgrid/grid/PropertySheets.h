@@ -16,18 +16,15 @@ namespace quillgrid {
 /// that was fetched last and carries what is read and written over to the property of that name.
 class PropertySheets {
 public:
-    /// Keeps the control alive while a sheet works on it.
-    using Holder = std::weak_ptr<const void>;
-
     PropertySheets(GridState& state, PropertySetter& setter, const Locale& locale)
         : state_(state), setter_(setter), locale_(locale) {}
 
     /// Built on the first call, as is the other one.
-    std::shared_ptr<Properties> GridSheet(const Holder& holder);
-    std::shared_ptr<Properties> CellSheet(const Holder& holder);
+    std::shared_ptr<Properties> GridSheet();
+    std::shared_ptr<Properties> CellSheet();
     /// Writes every line of the cells' sheet for which the record has a field; a field that does not fit is
     /// passed over. Silent meanwhile and loud afterwards.
-    void DefineCurrentCell(const Record& record, const Holder& holder);
+    void DefineCurrentCell(const Record& record);
     /// Empties the sheets and listens no more.
     void Terminate();
 
@@ -40,8 +37,8 @@ private:
         bool Built = false;
     };
 
-    void Listen(Sheet& sheet, const Holder& holder, Handler written, Handler read);
-    void Hear(Sheet& sheet, Property& item, const Holder& holder, Handler written, Handler read);
+    void Listen(Sheet& sheet, Handler written, Handler read);
+    void Hear(Sheet& sheet, Property& item, Handler written, Handler read);
     void WriteGrid(const std::string& name, Variant& value);
     void ReadGrid(const std::string& name, Variant& value);
     void WriteCell(const std::string& name, Variant& value);

@@ -17,7 +17,9 @@ using Core = std::shared_ptr<GridCore>;
 
 } // namespace
 
-Quillgrid::Quillgrid(const GridPorts& ports) : core_(std::make_shared<GridCore>(ports, *this)) {}
+Quillgrid::Quillgrid(const GridPorts& ports) : core_(std::make_shared<GridCore>(ports, *this)) {
+    core_->State.Self = core_;
+}
 
 Quillgrid::~Quillgrid() {
     Terminate();
@@ -202,6 +204,39 @@ void Quillgrid::KeyUp(std::int32_t keyCode, std::int32_t shift) {
 void Quillgrid::MouseDown(Point position) {
     const Core core = core_;
     core->Mouse.Press(position);
+}
+
+void Quillgrid::MouseUp(Point position) {
+    const Core core = core_;
+    core->Mouse.Release(position);
+}
+
+void Quillgrid::MouseMove(Point position, bool buttonHeld) {
+    const Core core = core_;
+    core->Mouse.Move(position, buttonHeld);
+}
+
+void Quillgrid::MouseLeave() {
+    const Core core = core_;
+    core->Mouse.Leave();
+}
+
+bool Quillgrid::AccessKeyPress(char32_t key) {
+    const Core core = core_;
+    return core->Keys.Press(key);
+}
+
+bool Quillgrid::MayDrop(Point position) const {
+    return core_->Drops.Takes(position);
+}
+
+bool Quillgrid::DropText(Point position, std::string_view text) {
+    const Core core = core_;
+    return core->Drops.Drop(position, text);
+}
+
+bool Quillgrid::DropFiles(Point position, const std::vector<std::string>& names) {
+    return !names.empty() && DropText(position, names.front());
 }
 
 void Quillgrid::DoubleClick(Point) {

@@ -18,6 +18,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillgrid {
 
@@ -258,8 +259,22 @@ public:
     void KeyUp(std::int32_t keyCode, std::int32_t shift);
     /// Left button.
     void MouseDown(Point position);
+    /// Left button.
+    void MouseUp(Point position);
+    void MouseMove(Point position, bool buttonHeld);
+    /// The pointer left the surface.
+    void MouseLeave();
     /// In the edit box.
     void DoubleClick(Point position);
+    /// An access key that was told to the container was pressed: the first row that has it becomes current.
+    /// False when none has it, or when the user must stay.
+    bool AccessKeyPress(char32_t key);
+    /// Whether the cell under the point would take a drop.
+    bool MayDrop(Point position) const;
+    /// Gives the cell under the point a text, as if it had been typed; false when it was not taken.
+    bool DropText(Point position, std::string_view text);
+    /// The same with the first of the file names.
+    bool DropFiles(Point position, const std::vector<std::string>& names);
     /// Scrolls by rows (positive: down); never edits.
     void MouseWheel(std::int32_t rows);
     /// The scroll bar's value, 1-based; the bar is set back when a handler keeps the user in the cell.

@@ -77,6 +77,14 @@ void ValueStepper::SelectByTyping(char32_t character) {
     Report(cell, before);
 }
 
+void ValueStepper::TakeText(std::string text) {
+    const auto cell = state_.Current;
+    if (!cell || !MayChange(*cell)) return;
+    const Variant before = cell->Value();
+    cell->SetText(std::move(text));
+    Report(cell, before);
+}
+
 bool ValueStepper::MayChange(const Cell& cell) {
     const bool may = IsEditable(cell, state_.Settings.UserLevel);
     if (!may) events_.Beep();

@@ -22,6 +22,8 @@ public:
     bool Step(char32_t key);
     void Toggle();
     void SelectByTyping(char32_t character);
+    /// For list and boolean cells.
+    void TakeText(std::string text);
 
 private:
     std::optional<Variant> Stepped(const Cell& cell, bool up) const;

@@ -20,6 +20,8 @@ public:
     void UpdateBar();
 
 private:
+    void EnableArrows();
+
     GridState& state_;
     ScrollBar& bar_;
     RepaintRequests& repaint_;

@@ -25,10 +25,13 @@ public:
     virtual Font AmbientFont() const = 0;
     /// What the container calls this control; may be empty.
     virtual std::string DisplayName() const = 0;
-    /// Horizontal lengths in the container's own coordinate units and back. A host without units of its own
-    /// gives them back unchanged.
+    /// Lengths in the container's own coordinate units and back, horizontal ones unless said otherwise. A
+    /// host without units of its own gives them back unchanged.
     virtual double ToContainerUnits(double pixels) const = 0;
+    virtual double ToContainerUnitsVertically(double pixels) const = 0;
     virtual double ToPixels(double containerUnits) const = 0;
+    /// The characters that, with Alt held, shall reach the control (by AccessKeyPress), in lower case.
+    virtual void SetAccessKeys(const std::u32string& keys) = 0;
     /// The property kept under this key of the bag was set. The container may do anything here, destroying
     /// the control included.
     virtual void PropertyChanged(std::string_view key) = 0;

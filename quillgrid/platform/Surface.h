@@ -10,7 +10,8 @@ namespace quillgrid {
 
 class Canvas;
 
-enum class MousePointer : std::uint8_t { Default, Busy };
+/// `Hand` says: a press does something here.
+enum class MousePointer : std::uint8_t { Default, Busy, Hand };
 
 /// The control's own window.
 class Surface {
@@ -18,6 +19,8 @@ public:
     virtual ~Surface() = default;
 
     virtual Size InnerSize() const = 0;
+    /// Asks the container for another size; it may refuse.
+    virtual void Resize(Size size) = 0;
     /// Asks for the area to be painted again, soon.
     virtual void Invalidate(const Rect& area) = 0;
     /// The focus is in the window or in one of its children, the edit box for one.

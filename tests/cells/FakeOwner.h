@@ -20,6 +20,8 @@ public:
 
     DateTime Now() const override { return Moment; }
     std::uint64_t TickCount() const override { return Ticks; }
+    Connection After(std::int32_t, std::function<void()>) override { return {}; }
+    MouseButtons ButtonsDown() const override { return {}; }
 };
 
 class ListedDesktop : public Theme {

@@ -17,6 +17,8 @@ public:
     std::string Name = "Quillgrid1";
     double UnitsPerPixel = 1;
     std::vector<std::string> Reported; ///< keys of properties that were set
+    double UnitsPerPixelVertically = 1;
+    std::u32string AccessKeys;
     std::vector<AboutTexts> Abouts;
     std::function<void(std::string_view key)> OnChanged;
 
@@ -24,6 +26,10 @@ public:
     Font AmbientFont() const override { return Ambient; }
     std::string DisplayName() const override { return Name; }
     double ToContainerUnits(double pixels) const override { return pixels * UnitsPerPixel; }
+    double ToContainerUnitsVertically(double pixels) const override {
+        return pixels * UnitsPerPixelVertically;
+    }
+    void SetAccessKeys(const std::u32string& keys) override { AccessKeys = keys; }
     double ToPixels(double containerUnits) const override { return containerUnits / UnitsPerPixel; }
     void PropertyChanged(std::string_view key) override {
         Reported.emplace_back(key);

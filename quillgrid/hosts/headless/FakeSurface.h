@@ -4,6 +4,7 @@
 #include "quillgrid/hosts/headless/RecordingCanvas.h"
 #include "quillgrid/platform/Surface.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ public:
     Size Inner{300, 200};
     std::vector<Rect> Invalid; ///< areas that wait to be painted
     std::string Tooltip;
+    bool MayResize = true;
+    std::function<void()> Resized; ///< the host's notice of a new size
     MousePointer Pointer = MousePointer::Default;
     int BusyTimes = 0; ///< how often the pointer told of work
     int Beeps = 0;
@@ -27,6 +30,10 @@ public:
     RecordingCanvas Drawn; ///< by the host, on top of what the control painted
 
     Size InnerSize() const override { return Inner; }
+    void Resize(Size size) override {
+        if (MayResize) Inner = size;
+        if (Resized) Resized();
+    }
     void Invalidate(const Rect& area) override;
     bool HasFocus() const override { return focus_ != FocusPlace::Outside; }
     void Focus() override { focus_ = FocusPlace::Surface; }

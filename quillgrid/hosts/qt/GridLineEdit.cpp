@@ -13,16 +13,11 @@
 
 namespace quillgrid::qt {
 
-namespace {
-
-/// What comes of several lines or columns has blanks between its words; a break at the end is no part of it.
 QString OneLine(const QString& text) {
     static const QRegularExpression breaks(QStringLiteral("[\\t\\n\\v\\f\\r\\x{85}\\x{2028}\\x{2029}]+"));
     static const QRegularExpression ends(u'^' + breaks.pattern() + u'|' + breaks.pattern() + u'$');
     return QString(text).remove(ends).replace(breaks, QStringLiteral(" "));
 }
-
-} // namespace
 
 GridLineEdit::GridLineEdit(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);

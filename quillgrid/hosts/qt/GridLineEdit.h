@@ -6,6 +6,9 @@
 
 namespace quillgrid::qt {
 
+/// What comes of several lines or columns has blanks between its words; a break at the end is no part of it.
+QString OneLine(const QString& text);
+
 /// The edit box: a line edit whose every way of putting text in passes a gate that the host sets. Keys go
 /// through the host's event filter.
 class GridLineEdit : public QLineEdit {

@@ -14,6 +14,8 @@ public:
 
     void SetRange(std::int32_t minimum, std::int32_t maximum, std::int32_t page) override;
     void SetValue(std::int32_t value) override;
+    /// The style greys the arrow of an end that is reached by itself.
+    void EnableArrows(bool, bool) override {}
     void Place(const Rect& area) override;
     void Hide() override;
 

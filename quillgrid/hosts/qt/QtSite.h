@@ -19,10 +19,13 @@ public:
     /// The object name.
     std::string DisplayName() const override;
     double ToContainerUnits(double pixels) const override { return pixels; }
+    double ToContainerUnitsVertically(double pixels) const override { return pixels; }
     double ToPixels(double containerUnits) const override { return containerUnits; }
+    void SetAccessKeys(const std::u32string& keys) override { AccessKeysChanged(keys); }
     void PropertyChanged(std::string_view key) override { Reported(key); }
     void ShowAbout(const AboutTexts& texts) override;
 
+    std::function<void(const std::u32string& keys)> AccessKeysChanged = [](const std::u32string&) {};
     std::function<void(std::string_view key)> Reported = [](std::string_view) {};
 
 private:

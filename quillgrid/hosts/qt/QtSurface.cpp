@@ -3,6 +3,7 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QWidget>
 
 namespace quillgrid::qt {
@@ -17,6 +18,11 @@ Size QtSurface::InnerSize() const {
     return {widget_.width(), widget_.height()};
 }
 
+// A layout decides for itself; asking it from within its own resizing would not end.
+void QtSurface::Resize(Size size) {
+    if (!widget_.parentWidget() || !widget_.parentWidget()->layout()) widget_.resize(size.Width, size.Height);
+}
+
 void QtSurface::Invalidate(const Rect& area) {
     if (area.IsEmpty()) return;
     store_.MarkStale(ToQRect(area));
@@ -24,10 +30,10 @@ void QtSurface::Invalidate(const Rect& area) {
 }
 
 void QtSurface::SetPointer(MousePointer pointer) {
-    if (pointer == MousePointer::Busy) {
-        widget_.setCursor(Qt::BusyCursor);
-    } else {
-        widget_.unsetCursor();
+    switch (pointer) {
+    case MousePointer::Busy: return widget_.setCursor(Qt::BusyCursor);
+    case MousePointer::Hand: return widget_.setCursor(Qt::PointingHandCursor);
+    case MousePointer::Default: return widget_.unsetCursor();
     }
 }
 

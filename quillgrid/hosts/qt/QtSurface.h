@@ -19,6 +19,7 @@ public:
         : widget_(widget), store_(widget, std::move(paint)) {}
 
     Size InnerSize() const override;
+    void Resize(Size size) override;
     void Invalidate(const Rect& area) override;
     bool HasFocus() const override { return IsEntered(); }
     void Focus() override { RequestFocus(); }

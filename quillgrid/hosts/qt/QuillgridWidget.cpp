@@ -6,12 +6,15 @@
 #include "quillgrid/hosts/qt/WidgetHost.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QHideEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QUrl>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -28,6 +31,8 @@ constexpr int RowsAtLeast = 3;
 
 QuillgridWidget::QuillgridWidget(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAcceptDrops(true);
     host_ = std::make_unique<WidgetHost>(*this);
 }
 
@@ -93,6 +98,44 @@ void QuillgridWidget::mousePressEvent(QMouseEvent* event) {
     host_->Grid.MouseDown(FromQPoint(event->position().toPoint()));
 }
 
+void QuillgridWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->ignore();
+    event->accept();
+    host_->Grid.MouseUp(FromQPoint(event->position().toPoint()));
+}
+
+void QuillgridWidget::mouseMoveEvent(QMouseEvent* event) {
+    host_->Grid.MouseMove(FromQPoint(event->position().toPoint()), event->buttons() != Qt::NoButton);
+}
+
+void QuillgridWidget::leaveEvent(QEvent*) {
+    host_->Grid.MouseLeave();
+}
+
+void QuillgridWidget::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasText() || event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void QuillgridWidget::dragMoveEvent(QDragMoveEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(host_->Grid.MayDrop(FromQPoint(event->position().toPoint())));
+}
+
+void QuillgridWidget::dropEvent(QDropEvent* event) {
+    const QMimeData& dropped = *event->mimeData();
+    const Point place = FromQPoint(event->position().toPoint());
+    std::vector<std::string> files;
+    for (const QUrl& url : dropped.urls())
+        files.push_back(FromQString(url.isLocalFile() ? url.toLocalFile() : url.toString()));
+    event->setDropAction(Qt::CopyAction);
+    host_->Refusals.Dismiss();
+    // File managers offer their files as text too, in a form for programs.
+    const bool taken =
+        files.empty() ? dropped.hasText() && host_->Grid.DropText(place, FromQString(OneLine(dropped.text())))
+                      : host_->Grid.DropFiles(place, files);
+    event->setAccepted(taken);
+}
+
 void QuillgridWidget::wheelEvent(QWheelEvent* event) {
     const bool scrolls = host_->Grid.VisibleRows() < host_->Grid.RowCount();
     if (!scrolls || event->angleDelta().y() == 0)
@@ -118,6 +161,10 @@ void QuillgridWidget::keyReleaseEvent(QKeyEvent* event) {
 }
 
 bool QuillgridWidget::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut && host_) {
+        host_->PressAccessKey(static_cast<QShortcutEvent*>(event)->shortcutId());
+        return true;
+    }
     if (event->type() == QEvent::ShortcutOverride && ClaimsBeforeShortcuts(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;

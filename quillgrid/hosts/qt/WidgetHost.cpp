@@ -4,7 +4,10 @@
 #include "quillgrid/hosts/qt/QtCanvas.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
 
+#include <QKeySequence>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace quillgrid::qt {
 
@@ -41,6 +44,7 @@ WidgetHost::~WidgetHost() {
     Focus.Entered = [] {};
     edit_->removeEventFilter(&Keys);
     bar_->disconnect();
+    Grid.Terminate(); // it hides the edit box, for which the tracker of the focus must still be there
 }
 
 GridPorts WidgetHost::Ports() {
@@ -56,6 +60,7 @@ GridPorts WidgetHost::Ports() {
 }
 
 void WidgetHost::ConnectChildren() {
+    Container.AccessKeysChanged = [this](const std::u32string& keys) { GrabAccessKeys(keys); };
     Window.IsEntered = [this] { return Focus.IsEntered(); };
     Window.RequestFocus = Editor.RequestFocus = [this] { Focus.Request(); };
     Focus.Entered = [this] { Grid.FocusGained(); };
@@ -108,6 +113,27 @@ void WidgetHost::AcceptLocalSeparators() {
     Grid.SetDateSeparators(with(Grid.DateSeparators(), locale.DateSeparator));
     Grid.SetTimeSeparators(with(Grid.TimeSeparators(), locale.TimeSeparator));
     Grid.SetNumSeparators(with(Grid.NumSeparators(), locale.DecimalSeparator));
+}
+
+void WidgetHost::GrabAccessKeys(const std::u32string& keys) {
+    for (const auto& [shortcut, key] : accessKeys_)
+        widget_.releaseShortcut(shortcut);
+    accessKeys_.clear();
+    for (const char32_t key : keys) {
+        const bool known = std::any_of(accessKeys_.begin(), accessKeys_.end(),
+                                       [key](const auto& entry) { return entry.second == key; });
+        const QString letter = QString::fromUcs4(&key, 1).toUpper();
+        if (!known) accessKeys_[widget_.grabShortcut(QKeySequence(QStringLiteral("Alt+") + letter))] = key;
+    }
+}
+
+void WidgetHost::PressAccessKey(int shortcut) {
+    const auto key = accessKeys_.find(shortcut);
+    if (key == accessKeys_.end()) return;
+    Refusals.Dismiss();
+    if (!Focus.IsEntered()) widget_.setFocus(Qt::ShortcutFocusReason);
+    const QPointer<QuillgridWidget> alive(&widget_);
+    if (Grid.AccessKeyPress(key->second) && alive) Focus.Request();
 }
 
 void WidgetHost::Paint(QPainter& painter, const QRect& area) {

@@ -19,6 +19,9 @@
 
 #include <QScrollBar>
 
+#include <map>
+#include <string>
+
 namespace quillgrid::qt {
 
 /// What a widget is made of: the child widgets, the ports over them, the control, and the paths between. The
@@ -33,6 +36,8 @@ public:
     /// Fonts follow the widget's unless the form set its own.
     void FontChanged();
     void LookChanged();
+    /// The shortcut of an access key came.
+    void PressAccessKey(int shortcut);
     /// Paints the control, what is behind it included.
     void Paint(QPainter& painter, const QRect& area);
 
@@ -42,8 +47,10 @@ private:
     void ConnectRefusals();
     void ConnectEvents();
     void AcceptLocalSeparators();
+    void GrabAccessKeys(const std::u32string& keys);
 
     QuillgridWidget& widget_;
+    std::map<int, char32_t> accessKeys_; ///< by the number of their shortcut
 
     // The children are owned here, not by the widget's list of children: the ports end before them.
     std::unique_ptr<GridLineEdit> edit_;
