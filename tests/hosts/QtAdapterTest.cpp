@@ -125,7 +125,7 @@ TEST(QtCanvas, NothingIsDrawnForSidesInTheWrongOrder) {
     const Rect area{30, 30, 10, 10};
     drawing.canvas().Fill(area, 0);
     drawing.canvas().Edge(area, EdgeKind::Sunken);
-    drawing.canvas().PushButton(area, true);
+    drawing.canvas().PushButton(area, ButtonLook::Pressed);
     drawing.canvas().Text(area, "x", {});
     EXPECT_FALSE(drawing.HasInk({0, 0, 60, 40}));
 }
