@@ -9,6 +9,7 @@
 #include "quillgrid/grid/CellEditor.h"
 #include "quillgrid/grid/DropTarget.h"
 #include "quillgrid/grid/EditSeat.h"
+#include "quillgrid/grid/GridCalendar.h"
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridLifecycle.h"
 #include "quillgrid/grid/GridPainter.h"
@@ -61,6 +62,7 @@ public:
     class Columns Columns;
     class ImageList ImageList;
     SampleCells Samples;
+    GridCalendar Dates;
     RepaintRequests Repaint;
     GridEvents Events;
     Viewport View;

@@ -31,6 +31,7 @@ void GridLifecycle::FinishLoad() {
     state_.ResortNeeded = true;
     state_.Ready = true;
     state_.CurrentRow = 0;
+    dates_.Start();
     refresher_.Refresh();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/grid/GridCalendar.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
@@ -12,9 +13,14 @@ namespace quillgrid {
 /// Start-up with defaults or with what a form saved, and saving.
 class GridLifecycle {
 public:
-    GridLifecycle(GridState& state, const GridPorts& ports, SampleCells& samples, GridRefresh& refresher,
-                  PropertySetter& setter)
-        : state_(state), ports_(ports), samples_(samples), refresher_(refresher), setter_(setter) {}
+    GridLifecycle(GridState& state, const GridPorts& ports, SampleCells& samples, GridCalendar& dates,
+                  GridRefresh& refresher, PropertySetter& setter)
+        : state_(state),
+          ports_(ports),
+          samples_(samples),
+          dates_(dates),
+          refresher_(refresher),
+          setter_(setter) {}
 
     void InitProperties();
     /// Always completes, whatever the bag holds.
@@ -27,6 +33,7 @@ private:
     GridState& state_;
     const GridPorts& ports_;
     SampleCells& samples_;
+    GridCalendar& dates_;
     GridRefresh& refresher_;
     PropertySetter& setter_;
 };

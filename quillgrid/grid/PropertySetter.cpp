@@ -45,6 +45,7 @@ void PropertySetter::FollowBefore(const GridProperty& property) {
 
 void PropertySetter::FollowAfter(const GridProperty& property) {
     if (state_.Terminated) return;
+    if (property.Has(effect::DatePad)) dates_.TakeSettings();
     if (property.Has(effect::Rebuilds)) return Rebuild();
     if (property.Has(effect::Repaints) && !state_.UserMode) refresher_.Refresh();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/cells/Cells.h"
+#include "quillgrid/grid/GridCalendar.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridProperty.h"
 #include "quillgrid/grid/GridRefresh.h"
@@ -17,11 +18,12 @@ namespace quillgrid {
 class PropertySetter {
 public:
     PropertySetter(GridState& state, const GridPorts& ports, const Cells& cells, SampleCells& samples,
-                   GridRefresh& refresher, RowSelector& selector, Viewport& view)
+                   GridCalendar& dates, GridRefresh& refresher, RowSelector& selector, Viewport& view)
         : state_(state),
           ports_(ports),
           cells_(cells),
           samples_(samples),
+          dates_(dates),
           refresher_(refresher),
           selector_(selector),
           view_(view) {}
@@ -45,6 +47,7 @@ private:
     const GridPorts& ports_;
     const Cells& cells_;
     SampleCells& samples_;
+    GridCalendar& dates_;
     GridRefresh& refresher_;
     RowSelector& selector_;
     Viewport& view_;

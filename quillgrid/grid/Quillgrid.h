@@ -3,6 +3,7 @@
 #include "quillgrid/base/ControlError.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/base/Variant.h"
+#include "quillgrid/calendar/Holidays.h"
 #include "quillgrid/cells/Cell.h"
 #include "quillgrid/cells/Cells.h"
 #include "quillgrid/cells/Groups.h"
@@ -61,6 +62,34 @@ public:
     /// The control's property sheet: `Properties().Item("Caption")->Value()`. Writing a value that cannot be
     /// converted is error 20099 ("Property:Value Property Let").
     class Properties& Properties();
+    // The calendar. Each question first takes over the AllowHoliday, AllowSaturday and AllowSunday of the
+    // current cell and the control's own settings, and loads the rules of AutoHolidays anew: rules and
+    // enabled states of the host's own last until then. Dates lie in the years 100 to 9999; one outside
+    // counts as the nearest inside.
+
+    /// Whether a day is worked on.
+    bool IsWorkDay(DateTime date);
+    /// Work days from `date1` to `date2`, both included; 0 when `date1` is the later one. CalendarDate
+    /// becomes `date1`, here and below.
+    std::int32_t WorkDayDiff(DateTime date1, DateTime date2);
+    /// The date so many work days after (before) `date1`, which itself does not count and keeps its time.
+    DateTime WorkDayAdd(DateTime date1, std::int32_t days);
+    /// The name of a day's holiday, or of its weekday; date 0 means CalendarDate.
+    std::string Dayname(DateTime date);
+    DateTime CalendarDate() const;
+    /// Goes to the nearest day that may be picked.
+    void SetCalendarDate(DateTime date);
+    std::shared_ptr<class Holidays> Holidays() const;
+    void SetHolidays(std::shared_ptr<class Holidays> rules);
+    /// Days from which holidays may be counted. Setting one is error 382 while a form designer shows the
+    /// control.
+    DateTime UserDate1() const;
+    void SetUserDate1(DateTime date);
+    DateTime UserDate2() const;
+    void SetUserDate2(DateTime date);
+    DateTime UserDate3() const;
+    void SetUserDate3(DateTime date);
+
     /// The canvas of the control's window, for drawing at any moment; the control paints over it when that
     /// part of it changes.
     Canvas& hdc();

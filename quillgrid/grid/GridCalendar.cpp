@@ -1,0 +1,56 @@
+#include "quillgrid/grid/GridCalendar.h"
+
+namespace quillgrid {
+
+void GridCalendar::Start() {
+    TakeSettings();
+    calendar_.SetAutoHolidays(state_.Settings.AutoHolidays);
+    calendar_.SetCurrentDate(ports_.Time.Now());
+}
+
+void GridCalendar::TakeSettings() {
+    const GridSettings& settings = state_.Settings;
+    CalendarSettings& mine = calendar_.Settings();
+    mine.FirstDayOfWeek = settings.FirstDayOfWeek;
+    mine.FirstWeekOfYear = settings.FirstWeekOfYear;
+    mine.Work = {settings.WorkHoliday, settings.WorkSaturday, settings.WorkSunday};
+}
+
+void GridCalendar::Synchronise() {
+    const GridSettings& settings = state_.Settings;
+    const Cell* cell = state_.Working ? state_.Working : state_.Current.get();
+    DayFlags allow;
+    if (cell) allow = {cell->AllowHoliday(), cell->AllowSaturday(), cell->AllowSunday()};
+    calendar_.Synchronise({.Allow = cell ? &allow : nullptr,
+                           .Work = {settings.WorkHoliday, settings.WorkSaturday, settings.WorkSunday},
+                           .AutoHolidays = settings.AutoHolidays});
+}
+
+bool GridCalendar::IsWorkDay(DateTime date) {
+    Synchronise();
+    return calendar_.IsWorkDay(date);
+}
+
+std::int32_t GridCalendar::WorkDayDiff(DateTime date1, DateTime date2) {
+    Synchronise();
+    calendar_.SetCurrentDate(date1);
+    return calendar_.WorkDayDiff(date1, date2);
+}
+
+DateTime GridCalendar::WorkDayAdd(DateTime date1, std::int32_t days) {
+    Synchronise();
+    calendar_.SetCurrentDate(date1);
+    return calendar_.WorkDayAdd(date1, days);
+}
+
+std::string GridCalendar::Dayname(DateTime date) {
+    Synchronise();
+    return calendar_.Dayname(date);
+}
+
+void GridCalendar::SetCurrentDate(DateTime date) {
+    Synchronise();
+    calendar_.SetCurrentDate(date);
+}
+
+} // namespace quillgrid
