@@ -26,7 +26,7 @@ struct TextStyle {
 /// How a picture is drawn; what is left out is the drawing service's affair: the whole picture in its own
 /// size, copied.
 struct PicturePlacement {
-    Point Position;
+    Point Position{};
     std::optional<std::int32_t> Width{};
     std::optional<std::int32_t> Height{};
     std::optional<std::int32_t> SourceLeft{};

@@ -22,7 +22,7 @@ void BackingStore::BringUpToDate() {
     const qreal density = widget_.devicePixelRatio();
     const QSize pixels = (QSizeF(widget_.size()) * density).toSize().expandedTo({1, 1});
     if (image_.size() != pixels || image_.devicePixelRatio() != density) {
-        image_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+        image_ = QImage(pixels, QImage::Format_RGB32);
         image_.setDevicePixelRatio(density);
         image_.fill(widget_.palette().color(QPalette::Window));
         stale_ = widget_.rect();

@@ -178,11 +178,12 @@ void QtCanvas::PlacePicture(const Picture& picture, const PicturePlacement& plac
     const QPointF from(placement.SourceLeft.value_or(0), placement.SourceTop.value_or(0));
     const QSizeF part(placement.SourceWidth.value_or(natural.width()),
                       placement.SourceHeight.value_or(natural.height()));
-    const QSizeF size(placement.Width.value_or(natural.width()), placement.Height.value_or(natural.height()));
+    const QSizeF size(placement.Width ? *placement.Width : part.width(),
+                      placement.Height ? *placement.Height : part.height());
     if (part.isEmpty() || size.isEmpty()) return;
     const QRectF place(QPointF(placement.Position.X, placement.Position.Y), size);
     painter_.save();
-    painter_.setClipRect(place, Qt::IntersectClip);
+    painter_.setClipRect(place & QRectF(painter_.window()), Qt::IntersectClip);
     painter_.setCompositionMode(ModeOf(placement.Operation.value_or(0)));
     painter_.translate(place.topLeft());
     painter_.scale(size.width() / part.width(), size.height() / part.height());

@@ -29,6 +29,12 @@ QtImageSource::QtImageSource() {
         images_.push_back({std::string(icon.Key), {}, std::make_shared<QtPicture>(icon.Draw)});
 }
 
+bool QtImageSource::Add(std::string_view key, PictureReference picture, Variant tag) {
+    if (!picture || (!key.empty() && Find(key))) return false;
+    images_.push_back({std::string(key), std::move(tag), std::move(picture)});
+    return true;
+}
+
 const ListedImage* QtImageSource::At(std::size_t position) const {
     return position >= 1 && position <= images_.size() ? &images_[position - 1] : nullptr;
 }

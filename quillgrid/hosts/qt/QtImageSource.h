@@ -2,8 +2,9 @@
 
 #include "quillgrid/platform/ImageSource.h"
 
+#include <deque>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace quillgrid::qt {
 
@@ -12,6 +13,10 @@ namespace quillgrid::qt {
 class QtImageSource : public ImageSource {
 public:
     QtImageSource();
+
+    /// Adds an image behind the others; false, and nothing is added, when the key is taken or the picture is
+    /// none. Images stay where they are.
+    bool Add(std::string_view key, PictureReference picture, Variant tag = {});
 
     Size ImageSize() const override { return {16, 16}; }
     std::size_t Count() const override { return images_.size(); }
@@ -32,7 +37,7 @@ public:
 private:
     const ListedImage* ByVariant(const Variant& key) const;
 
-    std::vector<ListedImage> images_;
+    std::deque<ListedImage> images_;
     Colour maskColour_ = Rgb(192, 192, 192);
     bool useMaskColour_ = true;
     std::string tag_;

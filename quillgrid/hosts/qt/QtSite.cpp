@@ -1,8 +1,7 @@
 #include "quillgrid/hosts/qt/QtSite.h"
 
+#include "quillgrid/hosts/qt/AboutWindow.h"
 #include "quillgrid/hosts/qt/Conversions.h"
-
-#include <QMessageBox>
 
 namespace quillgrid::qt {
 
@@ -11,17 +10,14 @@ Font QtSite::AmbientFont() const {
 }
 
 std::string QtSite::DisplayName() const {
-    return widget_.objectName().toStdString();
+    return FromQString(widget_.objectName());
 }
 
 void QtSite::ShowAbout(const AboutTexts& texts) {
-    const QString name = ToQString(texts.Name);
-    auto* box = new QMessageBox(
-        QMessageBox::Information, name,
-        QMessageBox::tr("%1 %2\nLicence: %3").arg(name, ToQString(texts.Version), ToQString(texts.Licence)),
-        QMessageBox::Close, &widget_);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    if (!about_) about_ = new AboutWindow(texts, &widget_);
+    about_->show();
+    about_->raise();
+    about_->activateWindow();
 }
 
 } // namespace quillgrid::qt

@@ -2,19 +2,20 @@
 
 #include "quillgrid/platform/Site.h"
 
-#include <functional>
+#include <QPointer>
+#include <QWidget>
 
-class QWidget;
+#include <functional>
 
 namespace quillgrid::qt {
 
-/// The widget as the container of its control. Units are logical pixels.
+/// The widget as the container of its control. Units are logical pixels, whatever the screen.
 class QtSite : public Site {
 public:
     /// The widget must outlive the site.
-    explicit QtSite(QWidget& widget) : widget_(widget) {}
+    QtSite(QWidget& widget, bool userMode) : widget_(widget), userMode_(userMode) {}
 
-    bool UserMode() const override { return true; }
+    bool UserMode() const override { return userMode_; }
     Font AmbientFont() const override;
     /// The object name.
     std::string DisplayName() const override;
@@ -30,6 +31,8 @@ public:
 
 private:
     QWidget& widget_;
+    bool userMode_;
+    QPointer<QWidget> about_;
 };
 
 } // namespace quillgrid::qt

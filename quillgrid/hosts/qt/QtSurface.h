@@ -13,8 +13,7 @@ namespace quillgrid::qt {
 
 class QtSurface : public Surface {
 public:
-    /// The widget must outlive the surface.
-    /// `paint` paints the control.
+    /// The widget must outlive the surface. `paint` paints the control over its background.
     QtSurface(QWidget& widget, BackingStore::Painting paint)
         : widget_(widget), store_(widget, std::move(paint)) {}
 

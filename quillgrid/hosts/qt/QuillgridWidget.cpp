@@ -29,11 +29,12 @@ constexpr int RowsAtLeast = 3;
 
 } // namespace
 
-QuillgridWidget::QuillgridWidget(QWidget* parent) : QWidget(parent) {
+QuillgridWidget::QuillgridWidget(QWidget* parent, Mode mode) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAcceptDrops(true);
-    host_ = std::make_unique<WidgetHost>(*this);
+    setAttribute(Qt::WA_OpaquePaintEvent); // the control's own background takes the place of the window's
+    host_ = std::make_unique<WidgetHost>(*this, mode == UserMode);
 }
 
 QuillgridWidget::~QuillgridWidget() {
@@ -45,6 +46,10 @@ Quillgrid& QuillgridWidget::grid() {
 }
 const Quillgrid& QuillgridWidget::grid() const {
     return host_->Grid;
+}
+
+QtImageSource& QuillgridWidget::images() {
+    return host_->Images;
 }
 
 void QuillgridWidget::setMessageSource(MessageSource source) {
@@ -174,7 +179,9 @@ bool QuillgridWidget::event(QEvent* event) {
         if (KeyCodeOf(*key) == KeyTab && host_->Keys.KeyDown(*key))
             return true; // QWidget would move the focus
     }
-    return QWidget::event(event);
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::ScreenChangeInternal && host_) host_->ScreenChanged();
+    return taken;
 }
 
 void QuillgridWidget::changeEvent(QEvent* event) {

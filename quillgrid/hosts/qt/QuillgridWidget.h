@@ -11,6 +11,7 @@
 
 namespace quillgrid::qt {
 
+class QtImageSource;
 class WidgetHost;
 
 /// The control as a Qt widget: put it into a layout, define cells through `grid()`, connect the signals.
@@ -24,14 +25,21 @@ public:
     /// Says why typed text was refused, in the user's words; an empty answer falls back on the control's own.
     using MessageSource = std::function<QString(const Cell& cell, ValidationErrConstants code)>;
 
+    /// A form designer shows the control in design mode: it keeps its sample cells, edits nothing and shows
+    /// every change of a property at once.
+    enum Mode { UserMode, DesignMode };
+
     /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own
     /// `Language`.
-    explicit QuillgridWidget(QWidget* parent = nullptr);
+    explicit QuillgridWidget(QWidget* parent = nullptr, Mode mode = UserMode);
     ~QuillgridWidget() override;
 
-    /// The control itself; lives as long as the widget.
+    /// The control itself; lives as long as the widget. It is saved with `grid().WriteProperties(bag)` and
+    /// loaded with `grid().ReadProperties(bag)`, for instance with a JsonPropertyBag.
     Quillgrid& grid();
     const Quillgrid& grid() const;
+    /// The images that cells show by position or key: the ready-made ones, to which a program adds its own.
+    QtImageSource& images();
 
     /// The texts of the bubble beside a refused cell. By default the control's messages, in German or
     /// English.
@@ -62,6 +70,14 @@ Q_SIGNALS:
     /// The user moved past the first or the last cell while AllowWrap is false.
     void leaveFocus(quillgrid::Cell* cell);
     void imageClick(quillgrid::Cell* cell);
+    /// The user asks for values that only the program knows; `corner` is where the cell's value ends below.
+    void dropDown(quillgrid::Cell* cell, const QPointF& corner);
+    void closeBoxClick();
+    /// `corner`: where a menu can open.
+    void menuClick(const QPointF& corner);
+    /// A property that is saved with the form was set, to an equal value perhaps; its key in a property bag.
+    /// Fonts that follow the widget's change without it.
+    void propertyChanged(const QString& key);
 
 protected:
     bool event(QEvent* event) override;

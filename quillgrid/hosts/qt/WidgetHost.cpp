@@ -3,15 +3,17 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QtCanvas.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
+#include "quillgrid/hosts/qt/QtTheme.h"
 
 #include <QKeySequence>
+#include <QPainter>
 #include <QPointer>
 
 #include <algorithm>
 
 namespace quillgrid::qt {
 
-WidgetHost::WidgetHost(QuillgridWidget& widget)
+WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
     : widget_(widget),
       edit_(std::make_unique<GridLineEdit>(&widget)),
       bar_(std::make_unique<QScrollBar>(Qt::Vertical, &widget)),
@@ -21,7 +23,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget)
       Window(widget, [this](QPainter& painter, const QRect& area) { Paint(painter, area); }),
       Editor(*edit_, widget),
       Bar(*bar_),
-      Container(widget),
+      Container(widget, userMode),
       AmbientFont(FromQFont(widget.font())),
       Grid(Ports()),
       Refusals(Grid, *bubble_),
@@ -33,8 +35,11 @@ WidgetHost::WidgetHost(QuillgridWidget& widget)
     ConnectChildren();
     ConnectRefusals();
     ConnectEvents();
+    ConnectCaptionBar();
     Grid.InitProperties();
-    AcceptLocalSeparators();
+    Container.Reported = [this](std::string_view key) {
+        if (!followingFont_) Q_EMIT widget_.propertyChanged(ToQString(key));
+    };
 }
 
 // A late focus or text change of a child must find nobody to tell.
@@ -104,15 +109,11 @@ void WidgetHost::ConnectEvents() {
     Grid.ImageClick.Listen([this](Cell& cell) { Q_EMIT widget_.imageClick(&cell); });
 }
 
-// What the locale writes can be typed: a Swedish date has "-" between its parts.
-void WidgetHost::AcceptLocalSeparators() {
-    const Locale locale = LocaleFromQt(widget_.locale());
-    const auto with = [](std::string known, const std::string& local) {
-        return known.find(local) == std::string::npos ? known + local : known;
-    };
-    Grid.SetDateSeparators(with(Grid.DateSeparators(), locale.DateSeparator));
-    Grid.SetTimeSeparators(with(Grid.TimeSeparators(), locale.TimeSeparator));
-    Grid.SetNumSeparators(with(Grid.NumSeparators(), locale.DecimalSeparator));
+void WidgetHost::ConnectCaptionBar() {
+    Grid.DropDown.Listen(
+        [this](Cell& cell, float x, float y) { Q_EMIT widget_.dropDown(&cell, QPointF(x, y)); });
+    Grid.CloseBoxClick.Listen([this] { Q_EMIT widget_.closeBoxClick(); });
+    Grid.MenuClick.Listen([this](float x, float y) { Q_EMIT widget_.menuClick(QPointF(x, y)); });
 }
 
 void WidgetHost::GrabAccessKeys(const std::u32string& keys) {
@@ -137,22 +138,51 @@ void WidgetHost::PressAccessKey(int shortcut) {
 }
 
 void WidgetHost::Paint(QPainter& painter, const QRect& area) {
+    painter.fillRect(area, ToQColor(Window.BackColour(), widget_.palette()));
     QtCanvas canvas(painter, widget_.palette(), widget_.font());
     Grid.Paint(canvas, FromQRect(area));
 }
 
 void WidgetHost::FontChanged() {
+    const QPointer<QuillgridWidget> alive(&widget_); // refreshing may raise events
     const Font before = std::exchange(AmbientFont, FromQFont(widget_.font()));
     Metrics.Forget();
+    followingFont_ = true;
+    FollowFont(before);
+    if (!alive) return;
+    followingFont_ = false;
+    LookChanged();
+}
+
+// The form keeps no fonts of its own then: nothing that is saved with it has changed.
+void WidgetHost::FollowFont(const Font& before) {
+    const QPointer<QuillgridWidget> alive(&widget_);
     if (Grid.Font() == before) Grid.SetFont(AmbientFont);
-    if (Grid.CellFont() == before) Grid.SetCellFont(AmbientFont);
+    if (alive && Grid.CellFont() == before) Grid.SetCellFont(AmbientFont);
+    if (alive) FollowCaptionFont(before);
+}
+
+void WidgetHost::FollowCaptionFont(const Font& before) {
+    for (const bool bold : {false, true}) {
+        Font caption = before;
+        caption.Bold = caption.Bold || bold;
+        if (Grid.CaptionFont() != caption) continue;
+        caption = AmbientFont;
+        caption.Bold = caption.Bold || bold;
+        return Grid.SetCaptionFont(caption);
+    }
+}
+
+void WidgetHost::ScreenChanged() {
+    Metrics.Forget();
     LookChanged();
 }
 
 void WidgetHost::LookChanged() {
+    const QPointer<QuillgridWidget> alive(&widget_);
     Editor.AmbientChanged();
     Grid.Refresh();
-    Refusals.Follow();
+    if (alive) Refusals.Follow();
 }
 
 } // namespace quillgrid::qt

@@ -28,7 +28,7 @@ namespace quillgrid::qt {
 /// members stand in the order in which they need each other; they go in the reverse order.
 class WidgetHost {
 public:
-    explicit WidgetHost(QuillgridWidget& widget);
+    WidgetHost(QuillgridWidget& widget, bool userMode);
     ~WidgetHost();
     WidgetHost(const WidgetHost&) = delete;
     WidgetHost& operator=(const WidgetHost&) = delete;
@@ -38,7 +38,9 @@ public:
     void LookChanged();
     /// The shortcut of an access key came.
     void PressAccessKey(int shortcut);
-    /// Paints the control, what is behind it included.
+    /// Texts are measured anew: another screen may have another density.
+    void ScreenChanged();
+    /// Paints the control over its own background.
     void Paint(QPainter& painter, const QRect& area);
 
 private:
@@ -46,10 +48,13 @@ private:
     void ConnectChildren();
     void ConnectRefusals();
     void ConnectEvents();
-    void AcceptLocalSeparators();
     void GrabAccessKeys(const std::u32string& keys);
+    void ConnectCaptionBar();
+    void FollowFont(const Font& before);
+    void FollowCaptionFont(const Font& before);
 
     QuillgridWidget& widget_;
+    bool followingFont_ = false;
     std::map<int, char32_t> accessKeys_; ///< by the number of their shortcut
 
     // The children are owned here, not by the widget's list of children: the ports end before them.
