@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""Reads a benchmark run and prints the figures with the ratios that the project aims at."""
+"""Reads benchmark runs and prints the figures with the ratios that the project aims at."""
 
 import json
 import sys
 
+SIZES = (100, 1000, 10000, 100000)
 # subject, rival, largest ratio of their times
 AIMS = [
     ("Number_Quillgrid", "Number_QLocale", 0.35),
@@ -15,6 +16,25 @@ AIMS = [
     ("WorkDays_Add/10", "WorkDays_AddQuantLib/10", 0.001),
     ("WorkDays_Diff/10", "WorkDays_DiffInList/10", 4.00),
     ("WorkDays_Add/10", "WorkDays_AddInList/10", 4.00),
+    ("Sheet_ReadAll/10000", "Sheet_ReadAll/1", 1.30),
+    ("Paint_FullQuillgrid/1000", "Paint_FullTable/1000", 0.33),  # per visible row
+    ("Paint_FullQuillgrid/1000", "Paint_FullFormLayout/1000", 0.50),
+    ("Paint_FullQuillgrid/1000", "Paint_FullByHand/1000", 2.00),
+    ("Paint_FullQuillgrid/100000", "Paint_FullTable/100000", 0.33),
+    ("Paint_FullQuillgrid/100000", "Paint_FullByHand/100000", 2.00),
+    ("Paint_RowQuillgrid/1000", "Paint_RowTable/1000", 1.00),
+    ("Paint_PageScrollQuillgrid/1000", "Paint_PageScrollTable/1000", 1.00),
+    *((f"Paint_FirstFrameQuillgrid/{size}", f"Paint_FirstFrameTable/{size}", 1.00) for size in SIZES),
+    *((f"Paint_FirstFrameQuillgridAutomatic/{size}", f"Paint_FirstFrameTable/{size}", 1.00) for size in SIZES),
+    ("Control_Create", "allocations", 250),
+    ("Control_Save", "allocations", 30),
+    ("Control_Load", "allocations", 45),
+    ("Sheet_ReadAll/10000", "allocations", 450),
+    ("Sheet_WriteAll/10000", "allocations", 450),
+    ("Record_Load/50", "allocations", 2),
+    ("BuildQuillgrid/1000", "BuildTable/1000", 1.00),
+    ("SortQuillgrid/100000", "SortTable/100000", 0.50),
+    *((f"FoldQuillgrid/{size}", f"FoldTable/{size}", 0.60) for size in SIZES),
 ]
 # subject, counter, largest value
 LIMITS = [
@@ -28,7 +48,16 @@ LIMITS = [
     ("WorkDays_FirstTouch/1/manual_time", "real_time", 1000),
     ("WorkDays_FirstTouch/3/manual_time", "real_time", 1000),
     ("WorkDays_WholeCalendar", "cpu_time", 50e6),
+    ("Control_Create", "allocations", 250),
+    ("Control_Save", "allocations", 30),
+    ("Control_Load", "allocations", 45),
+    ("Sheet_ReadAll/10000", "allocations", 450),
+    ("Sheet_WriteAll/10000", "allocations", 450),
+    ("Record_Load/50", "allocations", 2),
+    ("BuildQuillgrid/1000", "time_per_row", 3.2e-6 / 3),
+    ("HeapQuillgrid/10000/iterations:1", "bytes_per_row", 775),
 ]
+COUNTERS = ("allocations", "bytes_per_cell", "bytes_per_row")
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
@@ -39,16 +68,19 @@ def medians(path):
 
 
 def time_of(run):
-    if "time_per_cell" in run:
-        return run["time_per_cell"] * 1e9
+    for counter in ("time_per_cell", "time_per_row"):
+        if counter in run:
+            return run[counter] * 1e9
     return run["cpu_time"] * NANOSECONDS[run["time_unit"]]
 
 
-def main(path):
-    runs = medians(path)
+def main(paths):
+    runs = {}
+    for path in paths:
+        runs |= medians(path)
     for name, run in runs.items():
-        extras = "  ".join(f"{key} {run[key]:.2f}" for key in ("allocations", "bytes_per_cell") if key in run)
-        print(f"{name:32} {time_of(run):12.1f} ns  {extras}")
+        extras = "  ".join(f"{key} {run[key]:.2f}" for key in COUNTERS if key in run)
+        print(f"{name:42} {time_of(run):12.1f} ns  {extras}")
     print()
     missed = 0
     for subject, rival, largest in AIMS:
@@ -62,8 +94,8 @@ def main(path):
         if subject in runs:
             value = runs[subject][counter]
             missed += value > largest
-            print(f"{subject} {counter}: {value:.2f} (at most {largest}) {'ok' if value <= largest else 'MISSED'}")
+            print(f"{subject} {counter}: {value:.4g} (at most {largest}) {'ok' if value <= largest else 'MISSED'}")
     return 1 if missed else 0
 
 
-sys.exit(main(sys.argv[1]))
+sys.exit(main(sys.argv[1:]))
