@@ -23,8 +23,8 @@ struct TextStyle {
     bool WordWrap = false; ///< one vertically centred line otherwise
 };
 
-/// How a picture is drawn; what is left out is the drawing service's affair: the whole picture in its own
-/// size, copied.
+/// How a picture is drawn; what is left out is the drawing service's affair: the whole picture, what is taken
+/// of it in its own size, copied.
 struct PicturePlacement {
     Point Position{};
     std::optional<std::int32_t> Width{};

@@ -168,6 +168,7 @@ TEST_F(Bags, KeysIgnoreCaseAndKeepTheirSpelling) {
     JsonPropertyBag bag = BagOf(R"({"capTION":"x","Groupboxcolor":7,"unknown":[1,{"deep":null}]})");
     EXPECT_EQ(bag.Read("Caption", ""), Variant("x"));
     EXPECT_EQ(bag.Read("GROUPBOXCOLOR", 1), Variant(7));
+    EXPECT_EQ(BagOf("\xEF\xBB\xBF{\"a\":1}").Read("A", 0), Variant(1)); // as some editors save
     bag.Write("Caption", "y", "");
     EXPECT_EQ(bag.Read("caption", ""), Variant("y"));
     EXPECT_EQ(bag.Values().keys(), (QStringList{QStringLiteral("Caption"), QStringLiteral("Groupboxcolor"),

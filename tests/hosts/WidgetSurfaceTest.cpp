@@ -77,6 +77,23 @@ TEST(WidgetSurface, DesignModeShowsSampleCellsAndEveryChangeAtOnce) {
     EXPECT_EQ(running.grab().toImage(), running_);
 }
 
+TEST(WidgetSurface, DesignModeEditsNothingAndLeavesKeysToTheDesigner) {
+    QuillgridWidget widget(nullptr, QuillgridWidget::DesignMode);
+    widget.show();
+    widget.activateWindow();
+    widget.setFocus();
+    QApplication::processEvents();
+    for (QLineEdit* edit : widget.findChildren<QLineEdit*>())
+        EXPECT_FALSE(edit->isVisible());
+    for (const int key :
+         {static_cast<int>('X'), static_cast<int>(Qt::Key_Down), static_cast<int>(Qt::Key_Tab)}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("x"));
+        QApplication::sendEvent(&widget, &event);
+        EXPECT_TRUE(!event.isAccepted() || key == Qt::Key_Tab) << key;
+    }
+    EXPECT_EQ(widget.grid().RowCell(1)->Text(), "Text1");
+}
+
 TEST(WidgetSurface, LoadedFormsFollowTheFontsTheyDoNotSet) {
     QuillgridWidget widget;
     JsonPropertyBag bag(QJsonObject{{QStringLiteral("CellFont"), QJsonObject{{QStringLiteral("size"), 20}}}});

@@ -23,7 +23,7 @@ class JsonPropertyBag : public PropertyBag {
 
 public:
     /// Larger files are refused: no form's properties need a thousandth of it.
-    static constexpr qint64 LargestFile = 16 * 1024 * 1024;
+    static constexpr qint64 LargestFile = 16'777'216;
 
     JsonPropertyBag() = default;
     explicit JsonPropertyBag(const QJsonObject& values);

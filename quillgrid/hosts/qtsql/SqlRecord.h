@@ -11,7 +11,7 @@ namespace quillgrid::qt {
 /// the database is Null; the other values become variants as `VariantFromQt` says.
 class SqlRecord : public Record {
 public:
-    explicit SqlRecord(QSqlRecord record) : record_(std::move(record)) {}
+    explicit SqlRecord(const QSqlRecord& record) : record_(record) {}
 
     std::optional<Variant> Field(std::string_view name) const override;
 
