@@ -32,11 +32,15 @@ int Below(Random& random, int end) {
 }
 
 /// Texts that files, settings and conversions like to misunderstand.
-std::string RandomText(Random& random) {
+std::string AwkwardText(Random& random) {
     static const char* const awkward[] = {
         "",     "true", "5", "1,5", "@Invalid()",         "%1",   " a ",  "\"",
         "\\x0", "[g]",  ";", "a,b", "{\"family\":\"x\"}", "\n\t", "null", "@ByteArray(x)"};
-    if (Below(random, 2) == 0) return awkward[Below(random, static_cast<int>(std::size(awkward)))];
+    return awkward[Below(random, static_cast<int>(std::size(awkward)))];
+}
+
+std::string RandomText(Random& random) {
+    if (Below(random, 2) == 0) return AwkwardText(random);
     QString text;
     for (int length = Below(random, 12); length > 0; --length) {
         const char32_t character =
@@ -236,6 +240,59 @@ TEST_F(Bags, HostileValuesNeitherBreakTheFormNorShowAPassword) {
         JsonPropertyBag again;
         widget.grid().WriteProperties(again);
         EXPECT_EQ(again.Read("PasswordChar", "*"), Variant(""));
+    }
+}
+
+TEST_F(Bags, FormsOfRandomBagsCanBeShownAndSavedAgain) {
+    Random random(4);
+    const char* const values[] = {"0",
+                                  "1",
+                                  "2",
+                                  "7",
+                                  "-1",
+                                  "99",
+                                  "1000",
+                                  "2147483647",
+                                  "-2147483648",
+                                  "4294967295",
+                                  "1e300",
+                                  "true",
+                                  "false",
+                                  "\"\"",
+                                  "\"x\"",
+                                  "\"\\u0000\"",
+                                  "null",
+                                  "[]",
+                                  "{\"size\":1e5}",
+                                  "{\"family\":\"?\",\"size\":40,\"bold\":true}"};
+    for (int round = 0; round < 150; ++round) {
+        QByteArray json;
+        for (const GridProperty& property : detail::Table) {
+            if (Below(random, 3) == 0) continue;
+            const char* value = values[Below(random, static_cast<int>(std::size(values)))];
+            if (property.Has(effect::Rebuilds))
+                value = Below(random, 20) == 0 ? "1e9" : "12"; // a thousand take long
+            json += (json.isEmpty() ? "{\"" : ",\"") +
+                    QByteArray::fromStdString(std::string(property.BagKey())) + "\":" + value;
+        }
+        const bool designs = Below(random, 4) == 0;
+        QuillgridWidget widget(nullptr, designs ? QuillgridWidget::DesignMode : QuillgridWidget::UserMode);
+        widget.resize(Below(random, 400), Below(random, 300));
+        widget.grid().ReadProperties(BagOf(json + '}'));
+        EXPECT_FALSE(widget.grab(QRect(0, 0, 400, 300)).isNull());
+        for (int left = designs ? 0 : Below(random, 20); left > 0; --left)
+            widget.grid().Add({.Caption = AwkwardText(random),
+                               .Value = AwkwardText(random),
+                               .CellTemplate = static_cast<CellTemplateConstants>(Below(random, 25))});
+        widget.grid().Refresh();
+        EXPECT_FALSE(widget.grab(QRect(0, 0, 400, 300)).isNull());
+        JsonPropertyBag saved;
+        widget.grid().WriteProperties(saved);
+        JsonPropertyBag again;
+        QuillgridWidget second;
+        second.grid().ReadProperties(saved);
+        second.grid().WriteProperties(again);
+        EXPECT_EQ(again.ToText().toStdString(), saved.ToText().toStdString());
     }
 }
 
