@@ -87,6 +87,7 @@ void RecordForm::MakeGroups() {
         if (!key.empty() && !grid_.Groups().Find(ItemKey(key))) grid_.AddGroup({.Key = key});
     }
     grid_.SetGrouped(grid_.Groups().Count() > 0);
+    grid_.SetShowGroupBox(grid_.Groups().Count() > 0);
 }
 
 QString RecordForm::Notice() const {

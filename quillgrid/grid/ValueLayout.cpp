@@ -1,6 +1,7 @@
 #include "quillgrid/grid/ValueLayout.h"
 
 #include "quillgrid/grid/CellRules.h"
+#include "quillgrid/locale/Coercion.h"
 
 #include <algorithm>
 
@@ -15,7 +16,9 @@ constexpr std::int32_t ImageGap = 4;
 
 bool ShowsSwatch(const Cell& cell) {
     const bool colour = cell.Template() == qgctColor || cell.Template() == qgctSysColor;
-    return colour && cell.ListIndex() >= 1 && cell.ItemData().IsNumber(); // an empty entry has no colour
+    static const Locale neutral;
+    // An empty entry, by which a form offers no colour at all, stands for none.
+    return colour && cell.ListIndex() >= 1 && ToDouble(cell.ItemData(), neutral).has_value();
 }
 
 const Picture* FindImage(const Variant& key, const ImageSource* images) {

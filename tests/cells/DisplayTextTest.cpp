@@ -12,6 +12,7 @@ namespace quillgrid {
 namespace {
 
 struct FixedSymbols : CurrencyConverter {
+    void SetLanguage(LanguageConstants) override {}
     std::string Symbol(std::string_view code) const override {
         if (code == "EUR") return "\u20AC";
         return code == "USD" ? "$" : "";

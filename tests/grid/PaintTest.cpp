@@ -125,6 +125,21 @@ TEST(Paint, SwatchesImagesAndPercentBars) {
     EXPECT_THAT(canvas.Calls(), Contains("text 24,47 - 289,64 '50,00 %' sys14 centre"));
 }
 
+TEST(Paint, OnlyAnEntryThatIsAColourHasASwatch) {
+    HeadlessHost host;
+    const auto cell = host.Grid->Add({.Caption = Variant("c"), .CellTemplate = qgctColor});
+    cell->Listitems().Clear();
+    cell->Listitems().Add({.Text = "none", .ItemData = Variant("")});
+    cell->Listitems().Add({.Text = "red", .ItemData = Variant("255")});
+    const auto swatch = [&](const char* data) {
+        cell->SetValue(Variant(data));
+        host.Grid->Refresh();
+        return host.Paint().Starting("fill 27,15 - 35,23");
+    };
+    EXPECT_THAT(swatch("255"), ElementsAre("fill 27,15 - 35,23 #ff0000"));
+    EXPECT_THAT(swatch(""), ::testing::IsEmpty());
+}
+
 TEST(Paint, TouchesOnlyTheRowsInThePartToPaint) {
     HeadlessHost small({400, 1850});
     HeadlessHost large({400, 1850});
