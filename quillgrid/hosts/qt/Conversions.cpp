@@ -23,6 +23,16 @@ double SizeInRange(double size) {
 
 } // namespace
 
+QString OnOneLine(QString text) {
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return text;
+}
+
 Font FromQFont(const QFont& font) {
     return {FromQString(font.family()), PointSize(font), font.bold(), font.italic()};
 }

@@ -21,6 +21,9 @@ inline std::string FromQString(const QString& text) {
     return text.toStdString();
 }
 
+/// Control characters and line breaks as blanks: a tab or line break in a value would leave its line.
+QString OnOneLine(QString text);
+
 /// Sides that lie in the wrong order give an empty rectangle.
 inline QRect ToQRect(const Rect& area) {
     return area.IsEmpty() ? QRect() : QRect(area.Left, area.Top, area.Width(), area.Height());

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace quillgrid::qt {
 
@@ -47,17 +48,6 @@ Qt::Alignment HorizontalAlignment(AlignmentConstants alignment) {
     }
 }
 
-/// Without these a tab or line break in a value would leave its line.
-QString OnOneLine(QString text) {
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator) {
-            character = QLatin1Char(' ');
-        }
-    }
-    return text;
-}
-
 /// The ternary raster operations that painters have too; others copy.
 QPainter::CompositionMode ModeOf(std::int32_t operation) {
     switch (operation) {
@@ -86,20 +76,52 @@ QColor PressedInk(const QColor& ink) {
     return ink.lightnessF() < 0.5 ? ToQColor(PressedGlyphColour, QPalette()) : QColor(96, 208, 96);
 }
 
+/// Where the text begins; in 64ths, as painters count, or roundings would part from theirs.
+QPointF CornerOf(const PreparedText& text, const QRect& room, AlignmentConstants alignment) {
+    const auto in64ths = [](qreal place) { return std::trunc(place * 64) / 64; };
+    qreal left = room.left();
+    if (alignment == qgalRightJustify) left += room.width() - text.Width;
+    if (alignment == qgalCenter) left += (room.width() - text.Width) / 2;
+    return {in64ths(left), in64ths(room.top() + (room.height() - text.Height) / 2)};
+}
+
 /// What is wider than any screen is not worth shaping.
 constexpr qsizetype LongestText = 10'000;
 
+constexpr std::size_t ColoursKept = 32;
+constexpr int TallFill = 64;
+
 } // namespace
 
-QtCanvas::QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font)
+QtCanvas::QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font, PreparedTexts* texts)
     : painter_(painter),
       palette_(palette),
       font_(font),
+      texts_(texts),
       given_(painter.clipRegion()),
-      clipped_(painter.hasClipping()) {}
+      clipped_(painter.hasClipping()) {
+    colours_.reserve(ColoursKept);
+    if (texts_) texts_->Use(font_, *painter_.device());
+}
 
+/// Shades of system colours are mixed anew each time: the few of one painting are remembered.
+const QColor& QtCanvas::ColourOf(Colour colour) {
+    const auto known = std::find_if(colours_.begin(), colours_.end(),
+                                    [colour](const auto& entry) { return entry.first == colour; });
+    if (known != colours_.end()) return known->second;
+    if (colours_.size() == ColoursKept) colours_.clear();
+    return colours_.emplace_back(colour, ToQColor(colour, palette_)).second;
+}
+
+// Where child widgets cut holes into the clip, filling across them goes span by span, in several threads:
+// part by part it is a plain copy.
 void QtCanvas::Fill(const Rect& area, Colour colour) {
-    if (!area.IsEmpty()) painter_.fillRect(ToQRect(area), ToQColor(colour, palette_));
+    if (area.IsEmpty()) return;
+    const QRect whole = ToQRect(area);
+    const QColor& paint = ColourOf(colour);
+    if (given_.rectCount() <= 1 || whole.height() < TallFill) return painter_.fillRect(whole, paint);
+    for (const QRect& part : given_)
+        painter_.fillRect(part & whole, paint);
 }
 
 void QtCanvas::Line(Point from, Point to, Colour colour) {
@@ -148,7 +170,7 @@ void QtCanvas::DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) {
 }
 
 void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {
-    if (area.IsEmpty() || text.empty()) return;
+    if (area.IsEmpty() || text.empty() || DrawPrepared(area, text, style)) return;
     QString shown = ToQString(text.substr(0, std::min<std::size_t>(text.size(), 4 * LongestText)));
     shown.truncate(LongestText);
     const int flags = style.WordWrap ? static_cast<int>(Qt::AlignTop | Qt::TextWordWrap)
@@ -156,10 +178,29 @@ void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& st
     painter_.save();
     painter_.setClipRect(ToQRect(area), Qt::IntersectClip);
     painter_.setFont(ToQFont(style.TextFont, font_));
-    painter_.setPen(ToQColor(style.Ink, palette_));
+    painter_.setPen(ColourOf(style.Ink));
     painter_.drawText(ToQRect(area), flags | static_cast<int>(HorizontalAlignment(style.Alignment)),
                       style.WordWrap ? shown : OnOneLine(shown));
     painter_.restore();
+}
+
+/// False when the text must be laid out for this once: its lines break, or it runs from the right.
+bool QtCanvas::DrawPrepared(const Rect& area, std::string_view text, const TextStyle& style) {
+    if (!texts_ || style.WordWrap || painter_.layoutDirection() == Qt::RightToLeft) return false;
+    const PreparedText* const prepared = texts_->Find(text, style.TextFont);
+    if (!prepared) return false;
+    const QRect room = ToQRect(area);
+    const QPointF corner = CornerOf(*prepared, room, style.Alignment);
+    const bool narrow = !QRectF(room).contains(prepared->Ink.translated(corner));
+    if (narrow) {
+        painter_.save();
+        painter_.setClipRect(room, Qt::IntersectClip);
+    }
+    painter_.setPen(ColourOf(style.Ink));
+    for (const QGlyphRun& glyphs : prepared->Glyphs)
+        painter_.drawGlyphRun(corner, glyphs);
+    if (narrow) painter_.restore();
+    return true;
 }
 
 void QtCanvas::Image(const Rect& area, const Picture& picture) {

@@ -1,10 +1,16 @@
 #pragma once
 
+#include "quillgrid/hosts/qt/PreparedTexts.h"
 #include "quillgrid/platform/Canvas.h"
 
+#include <QColor>
 #include <QFont>
 #include <QPalette>
 #include <QRegion>
+
+#include <string_view>
+#include <utility>
+#include <vector>
 
 class QPainter;
 
@@ -15,7 +21,8 @@ namespace quillgrid::qt {
 class QtCanvas : public Canvas {
 public:
     /// The painter must be active and outlive the canvas. `font` is the one that font descriptions refer to.
-    QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font);
+    /// `texts`, if any, keeps what was shaped for the next painting and outlives the canvas.
+    QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font, PreparedTexts* texts = nullptr);
 
     void Fill(const Rect& area, Colour colour) override;
     void Line(Point from, Point to, Colour colour) override;
@@ -29,11 +36,15 @@ public:
     void ClearClip() override;
 
 private:
+    const QColor& ColourOf(Colour colour);
     void Frame(const Rect& area, Colour topLeft, Colour bottomRight);
+    bool DrawPrepared(const Rect& area, std::string_view text, const TextStyle& style);
 
     QPainter& painter_;
     QPalette palette_;
     QFont font_;
+    PreparedTexts* texts_;
+    std::vector<std::pair<Colour, QColor>> colours_;
     QRegion given_; ///< the painter's own clip, empty when it has none
     bool clipped_;
 };

@@ -3,7 +3,6 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QtCanvas.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
-#include "quillgrid/hosts/qt/QtTheme.h"
 
 #include <QKeySequence>
 #include <QPainter>
@@ -138,8 +137,8 @@ void WidgetHost::PressAccessKey(int shortcut) {
 }
 
 void WidgetHost::Paint(QPainter& painter, const QRect& area) {
-    painter.fillRect(area, ToQColor(Window.BackColour(), widget_.palette()));
-    QtCanvas canvas(painter, widget_.palette(), widget_.font());
+    QtCanvas canvas(painter, widget_.palette(), widget_.font(), &texts_);
+    canvas.Fill(FromQRect(area), Window.BackColour());
     Grid.Paint(canvas, FromQRect(area));
 }
 
@@ -147,6 +146,7 @@ void WidgetHost::FontChanged() {
     const QPointer<QuillgridWidget> alive(&widget_); // refreshing may raise events
     const Font before = std::exchange(AmbientFont, FromQFont(widget_.font()));
     Metrics.Forget();
+    texts_.Forget();
     followingFont_ = true;
     FollowFont(before);
     if (!alive) return;
@@ -175,6 +175,7 @@ void WidgetHost::FollowCaptionFont(const Font& before) {
 
 void WidgetHost::ScreenChanged() {
     Metrics.Forget();
+    texts_.Forget();
     LookChanged();
 }
 

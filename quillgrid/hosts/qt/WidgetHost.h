@@ -5,6 +5,7 @@
 #include "quillgrid/hosts/qt/FocusTracker.h"
 #include "quillgrid/hosts/qt/GridLineEdit.h"
 #include "quillgrid/hosts/qt/KeyRouter.h"
+#include "quillgrid/hosts/qt/PreparedTexts.h"
 #include "quillgrid/hosts/qt/QtClock.h"
 #include "quillgrid/hosts/qt/QtEditBox.h"
 #include "quillgrid/hosts/qt/QtImageSource.h"
@@ -56,6 +57,7 @@ private:
     QuillgridWidget& widget_;
     bool followingFont_ = false;
     std::map<int, char32_t> accessKeys_; ///< by the number of their shortcut
+    PreparedTexts texts_;
 
     // The children are owned here, not by the widget's list of children: the ports end before them.
     std::unique_ptr<GridLineEdit> edit_;
