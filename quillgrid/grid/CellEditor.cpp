@@ -158,11 +158,13 @@ bool CellEditor::TypeIntoText(const Cell& cell, char32_t& character) {
     const std::string filter = KeyFilterOf(cell, commit_.Context().Separators, locale_);
     if (!filter.empty() && TypeThroughFilter(cell, filter, character)) return true;
     if (IsFull(cell)) return Refuse();
-    if (filter.empty()) {
-        const std::string text = seat_.Text();
-        character = CaseOf(character, cell.CharCase(), FirstCharacters(text, seat_.Box().SelectionStart()));
-    }
+    if (filter.empty() && cell.CharCase() != qgccNone) character = InCaseOf(cell, character);
     return false;
+}
+
+char32_t CellEditor::InCaseOf(const Cell& cell, char32_t character) const {
+    const std::string text = seat_.Text();
+    return CaseOf(character, cell.CharCase(), FirstCharacters(text, seat_.Box().SelectionStart()));
 }
 
 bool CellEditor::PressSpace(const Cell& cell) {
@@ -189,7 +191,9 @@ bool CellEditor::PutMinusInFront() {
 
 bool CellEditor::IsFull(const Cell& cell) const {
     const auto most = static_cast<std::size_t>(cell.MaxLength() > 0 ? cell.MaxLength() : 0);
-    return seat_.Box().SelectionLength() == 0 && CharacterCount(seat_.Text()) > most;
+    if (seat_.Box().SelectionLength() != 0) return false;
+    // A long text that is pasted comes here with each of its characters: it is counted only near the limit.
+    return seat_.Box().LengthAtMost() > most && CharacterCount(seat_.Text()) > most;
 }
 
 bool CellEditor::IsAllSelected() const {

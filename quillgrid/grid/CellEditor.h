@@ -49,6 +49,7 @@ private:
     void PressEscape(const std::shared_ptr<Cell>& cell);
     bool TypeIntoList(const Cell& cell, char32_t character);
     bool TypeIntoText(const Cell& cell, char32_t& character);
+    char32_t InCaseOf(const Cell& cell, char32_t character) const;
     bool PressSpace(const Cell& cell);
     bool TypeThroughFilter(const Cell& cell, const std::string& filter, char32_t character);
     bool PutMinusInFront();

@@ -28,6 +28,8 @@ public:
     virtual ~EditBox() = default;
 
     virtual std::string Text() const = 0;
+    /// Not less than the length of the text in characters; a host may know it without making the text.
+    virtual std::size_t LengthAtMost() const { return Text().size(); }
     virtual void SetText(std::string_view text) = 0;
     virtual std::size_t SelectionStart() const = 0;
     virtual std::size_t SelectionLength() const = 0;

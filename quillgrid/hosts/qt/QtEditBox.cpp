@@ -51,6 +51,10 @@ std::string QtEditBox::Text() const {
     return FromQString(edit_.text());
 }
 
+std::size_t QtEditBox::LengthAtMost() const {
+    return static_cast<std::size_t>(edit_.text().size());
+}
+
 void QtEditBox::SetText(std::string_view text) {
     edit_.setText(ToQString(text));
     edit_.setCursorPosition(0);

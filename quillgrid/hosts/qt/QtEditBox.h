@@ -20,6 +20,7 @@ public:
     ~QtEditBox() override;
 
     std::string Text() const override;
+    std::size_t LengthAtMost() const override;
     void SetText(std::string_view text) override;
     std::size_t SelectionStart() const override;
     std::size_t SelectionLength() const override;
