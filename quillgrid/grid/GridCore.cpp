@@ -109,6 +109,7 @@ void GridCore::OrderChanged() {
 void GridCore::CellRemoved(Cell& cell) {
     State.ResortNeeded = true;
     if (State.Working == &cell) State.Working = nullptr;
+    Spin.Forget(cell);
     const std::int32_t row = State.RowOf(cell);
     if (row == 0) return;
     const bool wasCurrent = State.Current.get() == &cell;
@@ -127,6 +128,7 @@ void GridCore::CellRemoved(Cell& cell) {
 void GridCore::CellsCleared() {
     State.ResortNeeded = true;
     State.Working = nullptr;
+    Spin.Stop();
     State.Current.reset();
     State.CurrentRow = 0;
     State.FirstVisible = 1;

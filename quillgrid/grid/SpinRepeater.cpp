@@ -25,6 +25,10 @@ void SpinRepeater::Stop() {
     cell_.reset();
 }
 
+void SpinRepeater::Forget(const Cell& cell) {
+    if (cell_.lock().get() == &cell) Stop();
+}
+
 /// False when nothing is left to repeat: the value stands at its limit, or a handler took the cell away.
 bool SpinRepeater::Step(bool up) {
     const auto cell = cell_.lock();

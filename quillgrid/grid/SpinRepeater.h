@@ -19,6 +19,8 @@ public:
     /// The left button went down on the upper (`up`) or lower half of the current cell's button.
     void Start(bool up);
     void Stop();
+    /// The cell goes: nothing waits for it any more.
+    void Forget(const Cell& cell);
 
 private:
     bool Step(bool up);

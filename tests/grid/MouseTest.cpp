@@ -117,6 +117,19 @@ TEST_F(MouseTest, SpinEndsWhereNothingIsLeftToStep) {
     }
 }
 
+TEST_F(MouseTest, NothingWaitsForASpinCellThatIsGone) {
+    for (const auto& remove :
+         {+[](Quillgrid& grid) { grid.Cells().Remove("n"); }, +[](Quillgrid& grid) { grid.Clear(); }}) {
+        MouseTest_NothingWaitsForASpinCellThatIsGone_Test test;
+        test.Add("n", Variant(5), qgctSpin);
+        test.Start();
+        test.Hold(UpperHalf);
+        ASSERT_EQ(test.Host.Clock.Waiting(), 1U);
+        remove(test.Grid);
+        EXPECT_EQ(test.Host.Clock.Waiting(), 0U);
+    }
+}
+
 TEST_F(MouseTest, HandlersMayDestroyTheControlWhileAButtonIsHeld) {
     Add("n", Variant(5), qgctSpin);
     Start();
