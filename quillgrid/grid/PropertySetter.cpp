@@ -54,11 +54,12 @@ void PropertySetter::Report(std::string_view key) {
     if (!state_.Terminated) ports_.Container.PropertyChanged(key);
 }
 
+/// Where a handler keeps the user in the cell, the view stays with it.
 void PropertySetter::ShowFirstRow() {
-    view_.ShowFrom(1);
     if (state_.UserMode) {
         selector_.Select(1);
     } else {
+        view_.ShowFrom(1);
         state_.CurrentRow = 1;
     }
 }

@@ -132,6 +132,17 @@ TEST_F(Navigate, ScrollingOutOfACellThatHoldsTheUserDoesNotHappen) {
     EXPECT_EQ(host.Bar.Value, 1);
 }
 
+TEST_F(Navigate, AnotherStyleLeavesTheViewWithACellThatHoldsTheUser) {
+    host.Grid->ScrollTo(4);
+    ASSERT_THAT(Place(), ElementsAre(4, 4));
+    host.Grid->ValidateCell.Listen([](Cell&, bool& cancel) { cancel = true; });
+    host.Type("x");
+    host.Grid->SetStyle(qgstDefault);
+    EXPECT_THAT(Place(), ElementsAre(4, 4));
+    EXPECT_EQ(host.Bar.Value, 4);
+    EXPECT_TRUE(host.Box.Visible);
+}
+
 TEST_F(Navigate, MouseSelectsRowsAndTogglesOnTheImage) {
     host.Images.Add("checked");
     host.Images.Add("unchecked");
