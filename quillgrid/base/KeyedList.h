@@ -56,6 +56,11 @@ public:
         return true;
     }
     bool Append(std::string_view key, Pointer item) { return Insert(0, key, std::move(item)); }
+    /// Other items, all without keys.
+    void Assign(std::vector<Pointer> items) {
+        Clear();
+        items_ = std::move(items);
+    }
 
     /// Removes and returns the item at a position, or nothing.
     Pointer RemoveAt(std::size_t position);
@@ -68,6 +73,7 @@ public:
         const auto keys = std::exchange(keys_, nullptr); // ends first: not the hashes order the end
     }
 
+    const std::vector<Pointer>& Items() const { return items_; }
     auto begin() const { return items_.begin(); }
     auto end() const { return items_.end(); }
 

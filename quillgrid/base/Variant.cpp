@@ -46,6 +46,10 @@ std::optional<std::int32_t> WholeNumber(const Variant& value) {
     return std::nullopt;
 }
 
+bool IsNothing(const Variant& value) {
+    return value.IsNull() || value.IsEmpty();
+}
+
 /// The plain text of a double names exactly one number, so that the numbers can stand for their texts.
 bool SameText(double left, double right) {
     return left == right || (std::isnan(left) && std::isnan(right));
@@ -75,6 +79,8 @@ bool EqualAsText(const Variant& left, const Variant& right) {
     if (left.IsText() && right.IsText()) {
         return EqualIgnoreCase(*left.Get<std::string>(), *right.Get<std::string>());
     }
+    if (left.IsText() && IsNothing(right)) return left.Get<std::string>()->empty();
+    if (right.IsText() && IsNothing(left)) return right.Get<std::string>()->empty();
     const auto leftWhole = WholeNumber(left);
     const auto rightWhole = WholeNumber(right);
     if (leftWhole && rightWhole) return *leftWhole == *rightWhole;

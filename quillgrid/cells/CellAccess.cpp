@@ -36,7 +36,7 @@ std::int32_t CellAccess::TypeAhead(Cell& cell, char32_t character) {
     return cell.ListIndex();
 }
 
-void CellAccess::RefreshStaleText(Cell& cell) {
+void CellAccess::FreshenText(Cell& cell) {
     if (cell.IsList()) ResolveListSelection(cell);
     // The host may have renamed the chosen entry; an index without an entry keeps the text that was made for
     // it.

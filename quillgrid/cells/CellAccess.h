@@ -63,7 +63,9 @@ public:
     static void RefreshText(Cell& cell) { cell.RefreshText(); }
     /// The same where something that it depends on has changed; finds the entry of a list that was filled
     /// after its value was set. For every `Refresh` of the control; never sets `Changed`.
-    static void RefreshStaleText(Cell& cell);
+    static void RefreshStaleText(Cell& cell) {
+        if (cell.state_.StaleText || cell.IsList() || cell.IsBoolean()) FreshenText(cell);
+    }
     /// Finds the entry for the data of a list cell that shows none or another one.
     static void ResolveListSelection(Cell& cell);
     /// Takes a field of a record: Null empties the cell whatever its rules say, a list then has no selection;
@@ -71,6 +73,7 @@ public:
     static void LoadValue(Cell& cell, Variant value);
 
 private:
+    static void FreshenText(Cell& cell);
     static void Empty(Cell& cell);
 };
 

@@ -121,7 +121,8 @@ std::optional<Variant> Cell::AcceptInput(Variant value) {
                            .Charlist = Charlist(),
                            .AllowEmpty = state_.AllowEmpty};
     const CurrentCellScope current(link_, *this);
-    const InputContext context{SeparatorsOf(Owner()), UserLocale(),
+    const bool plain = state_.Rule == qgvrNone; // most cells; plain text has no separators
+    const InputContext context{plain ? InputSeparators{} : SeparatorsOf(Owner()), UserLocale(),
                                state_.Rule == qgvrDate ? TodayOf(Owner()) : 0};
     if (ConvertInput(value, rules, context) != qgErrNone) return std::nullopt;
     return value;

@@ -60,9 +60,10 @@ Cells::Pointer Cells::Item(ItemKey which) const {
 }
 
 std::int32_t Cells::Remove(ItemKey which) {
-    const auto cell = list_.RemoveAt(PositionOf(which));
+    const std::size_t position = PositionOf(which);
+    const auto cell = list_.RemoveAt(position);
     if (!cell) throw RaiseControlError(20092, "Cells.Remove Method");
-    Renumber();
+    if (position <= list_.Count()) Renumber(); // the last one leaves no gap
     if (link_->Owner) link_->Owner->CellRemoved(*cell);
     TellOrderChanged();
     return Count();

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillgrid {
 
@@ -50,6 +51,8 @@ public:
     std::int32_t Remove(ItemKey which);
     void Clear();
 
+    /// For loops that change nothing and call nobody back.
+    const std::vector<Pointer>& All() const { return list_.Items(); }
     Pointer At(std::size_t position) const { return list_.At(position); }
     std::size_t Size() const { return list_.Count(); }
     Iterator begin() const { return Iterator(*this); }

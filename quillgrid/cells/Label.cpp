@@ -19,6 +19,7 @@ std::int32_t FarEdge(std::int32_t start, std::int32_t length) {
 } // namespace
 
 void Label::SetCaption(std::string caption) {
+    round_ = 0;
     const auto mark = caption.find(AccessMark);
     if (mark == std::string::npos) {
         display_.reset();

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,6 +42,15 @@ public:
     void SetScrollOffset(std::int32_t offset) { scrollOffset_ = offset; }
     AlignmentConstants Alignment() const { return alignment_; }
     void SetAlignment(AlignmentConstants alignment) { alignment_ = alignment; }
+    /// The width of the display caption as it was last measured; nothing after another caption was set or
+    /// when it was measured in another round.
+    std::optional<std::int32_t> MeasuredWidth(std::uint32_t round) const {
+        return round_ == round ? std::optional(width_) : std::nullopt;
+    }
+    void SetMeasuredWidth(std::int32_t width, std::uint32_t round) {
+        width_ = width;
+        round_ = round;
+    }
     /// Three values that layout keeps here.
     std::int32_t LayoutValue(std::size_t which) const { return which < 3 ? layoutValues_[which] : 0; }
     void SetLayoutValue(std::size_t which, std::int32_t value) {
@@ -52,6 +62,8 @@ private:
     std::unique_ptr<std::string> display_; ///< only where it differs from the caption
     Rect place_;
     std::array<std::int32_t, 3> layoutValues_{};
+    std::int32_t width_ = 0;
+    std::uint32_t round_ = 0; ///< none
     std::int32_t accessKey_ = 0;
     std::int32_t scrollOffset_ = 0;
     AlignmentConstants alignment_ = qgalLeftJustify;

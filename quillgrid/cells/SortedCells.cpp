@@ -12,6 +12,17 @@ void SortedCells::Add(const Pointer& cell, std::int32_t position) {
     CellAccess::SetIndex(*cell, position == 0 ? Count() : position);
 }
 
+void SortedCells::Assign(std::vector<Pointer> cells) {
+    list_.Assign(std::move(cells));
+    Renumber();
+}
+
+void SortedCells::Renumber() {
+    std::int32_t place = 0;
+    for (const auto& cell : list_)
+        CellAccess::SetIndex(*cell, ++place);
+}
+
 SortedCells::Pointer SortedCells::Item(std::int32_t position) const {
     auto cell = At(ItemKey(position).Position());
     if (!cell) throw RaiseControlError(20092, "SortedCells.Item Property Get");
@@ -20,9 +31,7 @@ SortedCells::Pointer SortedCells::Item(std::int32_t position) const {
 
 void SortedCells::Remove(std::int32_t position) {
     if (!list_.RemoveAt(ItemKey(position).Position())) throw RaiseControlError(20092, "Cells.Remove Method");
-    std::int32_t place = 0;
-    for (const auto& cell : list_)
-        CellAccess::SetIndex(*cell, ++place);
+    if (position <= Count()) Renumber();
 }
 
 /// `Index` is the place unless the cell is not shown or was renumbered since.

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace quillgrid {
 
@@ -25,6 +26,10 @@ public:
     /// Removes by position and renumbers the rest; error 20092 when there is none.
     void Remove(std::int32_t position);
     void Clear() { list_.Clear(); }
+    /// Other rows; no pointer is null.
+    void Assign(std::vector<Pointer> cells);
+    /// For loops that change nothing and call nobody back.
+    const std::vector<Pointer>& All() const { return list_.Items(); }
 
     /// The cell or nothing.
     Pointer At(std::size_t position) const { return list_.At(position); }
@@ -35,6 +40,8 @@ public:
     Iterator end() const { return Iterator(); }
 
 private:
+    void Renumber();
+
     KeyedList<Cell> list_;
 };
 

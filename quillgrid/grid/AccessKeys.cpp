@@ -15,7 +15,7 @@ char32_t KeyOf(const Cell& cell) {
 
 void AccessKeys::Update() {
     std::u32string keys;
-    for (const auto& cell : state_.Rows) {
+    for (const auto& cell : state_.Rows.All()) {
         if (const char32_t key = KeyOf(*cell); key != 0) keys += key;
     }
     if (keys == told_) return;

@@ -1,22 +1,30 @@
 #include "quillgrid/grid/CaptionWidths.h"
 
+#include "quillgrid/cells/CellAccess.h"
+
+#include <algorithm>
+
 namespace quillgrid {
 
-namespace {
-
-// A host that invents captions all the time must not fill the memory with them.
-constexpr std::size_t MaxKept = 200'000;
-
-} // namespace
-
-std::int32_t CaptionWidths::WidthOf(const Font& font, const std::string& caption) {
-    if (font != font_ || widths_.size() > MaxKept) {
-        widths_.clear();
+std::int32_t CaptionWidths::Widest(const Cells& cells, const Font& font, std::int32_t lineHeight) {
+    if (font != font_ || lineHeight != lineHeight_) {
         font_ = font;
+        lineHeight_ = lineHeight;
+        if (++round_ == 0) ++round_;
     }
-    const auto [entry, isNew] = widths_.try_emplace(caption, 0);
-    if (isNew) entry->second = metrics_.TextWidth(font, caption);
-    return entry->second;
+    std::int32_t widest = 0;
+    for (const auto& cell : cells.All()) {
+        if (cell->Template() != qgctGroup) widest = std::max(widest, WidthOf(*cell));
+    }
+    return widest;
+}
+
+std::int32_t CaptionWidths::WidthOf(Cell& cell) const {
+    Label& label = CellAccess::Label(cell);
+    if (const auto known = label.MeasuredWidth(round_)) return *known;
+    const std::int32_t width = metrics_.TextWidth(font_, label.DisplayCaption());
+    label.SetMeasuredWidth(width, round_);
+    return width;
 }
 
 } // namespace quillgrid

@@ -42,11 +42,9 @@ std::string SortKeyOf(const Cell& cell, std::size_t position) {
 Entries AllEntries(const Cells& cells, bool sorted, const Locale& locale) {
     Entries entries;
     entries.reserve(cells.Size());
-    for (std::size_t position = 1; position <= cells.Size(); ++position) {
-        auto cell = cells.At(position);
-        std::string key = sorted ? SortKeyOf(*cell, position) : std::string();
-        entries.push_back({std::move(cell), std::move(key)});
-    }
+    std::size_t position = 0;
+    for (const auto& cell : cells.All())
+        entries.push_back({cell, sorted ? SortKeyOf(*cell, ++position) : std::string()});
     if (sorted) {
         std::stable_sort(entries.begin(), entries.end(), [&](const Entry& left, const Entry& right) {
             return locale.Compare(left.SortKey, right.SortKey) < 0;
@@ -70,10 +68,9 @@ public:
         return std::move(rows_);
     }
 
-    std::vector<std::shared_ptr<Cell>> Plain(const Entries& entries) {
+    std::vector<std::shared_ptr<Cell>> WithoutHeadings(const Entries& entries) {
         for (const Entry& entry : entries) {
-            if (settings_.Sorted && IsGroupHeading(*entry.Item)) continue;
-            Append(entry);
+            if (!IsGroupHeading(*entry.Item)) Append(entry);
         }
         return std::move(rows_);
     }
@@ -125,6 +122,16 @@ private:
     std::vector<std::shared_ptr<Cell>> rows_;
 };
 
+/// Neither sorted nor grouped: the usual form.
+std::vector<std::shared_ptr<Cell>> ShownCells(const Cells& cells, const GridSettings& settings) {
+    std::vector<std::shared_ptr<Cell>> rows;
+    rows.reserve(cells.Size());
+    for (const auto& cell : cells.All()) {
+        if (IsShown(*cell, settings.UserLevel)) rows.push_back(cell);
+    }
+    return rows;
+}
+
 } // namespace
 
 bool IsShown(const Cell& cell, std::int32_t userLevel) {
@@ -133,9 +140,11 @@ bool IsShown(const Cell& cell, std::int32_t userLevel) {
 
 std::vector<std::shared_ptr<Cell>> DisplayOrder(const Cells& cells, const Groups& groups,
                                                 const GridSettings& settings, const Locale& locale) {
+    if (!settings.Sorted && !(settings.Grouped && groups.Count() > 0)) return ShownCells(cells, settings);
     const Entries entries = AllEntries(cells, settings.Sorted, locale);
     Ordering ordering(groups, settings);
-    return settings.Grouped && groups.Count() > 0 ? ordering.Grouped(entries) : ordering.Plain(entries);
+    return settings.Grouped && groups.Count() > 0 ? ordering.Grouped(entries)
+                                                  : ordering.WithoutHeadings(entries);
 }
 
 } // namespace quillgrid

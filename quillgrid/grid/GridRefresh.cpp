@@ -26,7 +26,7 @@ void GridRefresh::Refresh() {
         if (state_.Terminated) return;
         Sort();
     }
-    for (const auto& cell : state_.Rows)
+    for (const auto& cell : state_.Rows.All())
         CellAccess::RefreshStaleText(*cell);
     SetCurrent(kept);
     LayOut();
@@ -39,9 +39,7 @@ void GridRefresh::LoadSamples() {
 }
 
 void GridRefresh::Sort() {
-    state_.Rows.Clear();
-    for (const auto& cell : DisplayOrder(cells_, groups_, state_.Settings, ports_.UserLocale))
-        state_.Rows.Add(cell);
+    state_.Rows.Assign(DisplayOrder(cells_, groups_, state_.Settings, ports_.UserLocale));
     state_.ResortNeeded = false;
 }
 
@@ -59,14 +57,18 @@ void GridRefresh::LayOut() {
     ports_.Window.SetBackColour(state_.Colours.Background);
     state_.Layout = Layout(state_.Settings, Measure());
     state_.FirstVisible = state_.LimitedFirstVisible(state_.FirstVisible);
-    for (std::int32_t row = 1; row <= state_.RowCount(); ++row) {
-        CellAccess::SetArea(*state_.RowCell(row), CellArea::Value, state_.Layout.ValueArea(row - 1));
-    }
+    PlaceRows();
     view_.UpdateBar();
     view_.Reveal(state_.CurrentRow);
     seat_.Seat();
     seat_.KeepFocus();
     repaint_.All();
+}
+
+void GridRefresh::PlaceRows() {
+    std::int32_t place = 0;
+    for (const auto& cell : state_.Rows.All())
+        CellAccess::SetArea(*cell, CellArea::Value, state_.Layout.ValueArea(place++));
 }
 
 LayoutMeasures GridRefresh::Measure() {
@@ -80,18 +82,10 @@ LayoutMeasures GridRefresh::Measure() {
     if (state_.Settings.BevelInner == qgbiGroupFrame)
         measures.CaptionWidth =
             ports_.Metrics.TextWidth(state_.Settings.CaptionFont, state_.Settings.Caption);
-    if (state_.Settings.LabelWidth <= 0) measures.WidestCaption = WidestCaption();
-    return measures;
-}
-
-std::int32_t GridRefresh::WidestCaption() {
-    std::int32_t widest = 0;
-    for (const auto& cell : cells_) {
-        if (cell->Template() == qgctGroup) continue;
-        const std::string& caption = CellAccess::Label(std::as_const(*cell)).DisplayCaption();
-        widest = std::max(widest, widths_.WidthOf(state_.Settings.Font, caption));
+    if (state_.Settings.LabelWidth <= 0) {
+        measures.WidestCaption = widths_.Widest(cells_, state_.Settings.Font, measures.LabelHeight);
     }
-    return widest;
+    return measures;
 }
 
 void GridRefresh::Resize() {

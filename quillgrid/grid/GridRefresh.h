@@ -44,7 +44,7 @@ private:
     void LayOut();
     void EnforceMinimum(Size size);
     LayoutMeasures Measure();
-    std::int32_t WidestCaption();
+    void PlaceRows();
 
     GridState& state_;
     const GridPorts& ports_;

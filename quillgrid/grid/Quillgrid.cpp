@@ -49,11 +49,11 @@ void Quillgrid::AmbientChanged(std::string_view name) {
     core->Setter.AmbientChanged(name);
 }
 
-std::shared_ptr<class Cell> Quillgrid::Add(const CellArguments& arguments) {
+std::shared_ptr<class Cell> Quillgrid::Add(CellArguments arguments) {
     const Core core = core_;
     const FlagGuard silent(core->State.Silent, true, false);
     try {
-        return core->Cells.Add(arguments);
+        return core->Cells.Add(std::move(arguments));
     } catch (const std::exception&) {
         throw RaiseControlError(qgerrUserDefined, "Quillgrid.add method");
     }

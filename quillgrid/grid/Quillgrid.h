@@ -50,7 +50,7 @@ public:
     void AmbientChanged(std::string_view name);
 
     /// Adds a cell; fails with 20099 (nothing added) when the key is taken. Silent is false afterwards.
-    std::shared_ptr<class Cell> Add(const CellArguments& arguments);
+    std::shared_ptr<class Cell> Add(CellArguments arguments);
     /// Adds a group and its heading row; fails with 20093 when the key is taken.
     void AddGroup(const GroupArguments& arguments);
     class Cells& Cells();
