@@ -1,9 +1,11 @@
-// Shaped texts that are kept look as if they were shaped each time.
+// What is remembered of texts is what shaping them anew would give.
 #include "quillgrid/hosts/qt/PreparedTexts.h"
 #include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/PairAdvances.h"
 #include "quillgrid/hosts/qt/QtCanvas.h"
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 
@@ -89,6 +91,27 @@ TEST(PreparedTexts, AnotherFontOfTheHostShapesAnew) {
     texts.Use(large, device);
     EXPECT_DOUBLE_EQ(texts.Find("text", description)->Width, width) << "the description gives the size";
     EXPECT_GT(texts.Find("text", FromQFont(large))->Width, width);
+}
+
+TEST(PairAdvances, SumsAreTheWidthsOfWholeTexts) {
+    const char* const words[] = {
+        "AVAVA Waffle To.", "Customer 12345", "fi fl offset", "\"W.\" ~ (f) {j}", "T", "", "Größe",
+        "r.,;:- Ty LT 11"};
+    for (const double size : {8.0, 9.5, 13.0, 31.0}) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(size);
+        const QFontMetricsF metrics(font);
+        PairAdvances pairs;
+        std::size_t summed = 0;
+        for (int number = 0; number < 2'000; ++number) {
+            const std::string text = words[number % 8] + std::to_string(number * 7919) + words[number % 7];
+            const auto width = pairs.WidthOf(text, metrics);
+            if (!width) continue;
+            ++summed;
+            EXPECT_NEAR(*width, metrics.horizontalAdvance(ToQString(text)), 0.01) << text;
+        }
+        EXPECT_GT(summed, 500U);
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/hosts/qt/PairAdvances.h"
 #include "quillgrid/platform/TextMetrics.h"
 
 #include <QFontMetricsF>
@@ -26,9 +27,10 @@ private:
     struct Entry {
         Font Description;
         QFontMetricsF Metrics;
+        PairAdvances Pairs;
     };
 
-    const QFontMetricsF& MetricsOf(const Font& font) const;
+    Entry& EntryOf(const Font& font) const;
 
     const QWidget& widget_;
     mutable std::vector<Entry> known_;

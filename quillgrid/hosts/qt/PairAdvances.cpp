@@ -1,0 +1,68 @@
+#include "quillgrid/hosts/qt/PairAdvances.h"
+
+#include <QFontMetricsF>
+#include <QLatin1Char>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace quillgrid::qt {
+
+namespace {
+
+constexpr std::size_t AskedBeforeLearning = 100;
+constexpr std::size_t LongestText = 1'000;
+constexpr char First = ' ';
+constexpr char Last = '~';
+constexpr std::size_t Characters = Last - First + 1;
+constexpr std::size_t AtEnd = Characters;
+
+std::size_t IndexOf(char character) {
+    return static_cast<std::size_t>(character - First);
+}
+
+/// Other characters join, stack or turn around; three letters become one only after "ff".
+bool IsPlain(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= First && c <= Last; }) &&
+           text.find("ff") == std::string_view::npos;
+}
+
+} // namespace
+
+std::optional<double> PairAdvances::WidthOf(std::string_view text, const QFontMetricsF& metrics) {
+    if (asked_ < AskedBeforeLearning) {
+        ++asked_;
+        return std::nullopt;
+    }
+    if (text.empty() || text.size() > LongestText || !IsPlain(text)) return std::nullopt;
+    double width = AdvanceAtEnd(text.back(), metrics);
+    for (std::size_t i = 0; i + 1 < text.size(); ++i)
+        width += AdvanceBefore(text[i], text[i + 1], metrics);
+    return width;
+}
+
+double PairAdvances::AdvanceBefore(char character, char next, const QFontMetricsF& metrics) {
+    float& known = Known(character, IndexOf(next));
+    if (std::isnan(known)) {
+        const QString pair = QString(QLatin1Char(character)) + QLatin1Char(next);
+        const double both = metrics.horizontalAdvance(pair);
+        known = static_cast<float>(both - AdvanceAtEnd(next, metrics));
+    }
+    return known;
+}
+
+double PairAdvances::AdvanceAtEnd(char character, const QFontMetricsF& metrics) {
+    float& known = Known(character, AtEnd);
+    if (std::isnan(known))
+        known = static_cast<float>(metrics.horizontalAdvance(QString(QLatin1Char(character))));
+    return known;
+}
+
+float& PairAdvances::Known(char character, std::size_t column) {
+    if (known_.empty()) known_.assign(Characters * (Characters + 1), std::numeric_limits<float>::quiet_NaN());
+    return known_[IndexOf(character) * (Characters + 1) + column];
+}
+
+} // namespace quillgrid::qt
