@@ -113,7 +113,7 @@ CalculatorMachine::Outcome CalculatorMachine::Point() {
 }
 
 CalculatorMachine::Outcome CalculatorMachine::Operator(char operation) {
-    if (!entries_.IsPending() && entries_.First.empty()) entries_.First = "0";
+    if (!entries_.IsPending() && entries_.First.empty()) entries_.First.assign(1, '0');
     if (entries_.IsPending() && !entries_.Second.empty()) {
         const Outcome outcome = Calculate();
         if (outcome != Outcome::Done) return outcome;
