@@ -25,6 +25,7 @@ MousePart MouseController::PartAt(const Hit& hit) const {
 
 void MouseController::Press(Point position) {
     if (state_.Terminated || !state_.UserMode) return;
+    with_.Spin.Stop(); // the release of the press before may have been lost
     const Hit hit = HitAt(position);
     switch (hit.Place) {
     case HitPlace::Label:
