@@ -92,8 +92,9 @@ void QuillgridWidget::paintEvent(QPaintEvent* event) {
 }
 
 void QuillgridWidget::resizeEvent(QResizeEvent*) {
+    const QPointer<QuillgridWidget> self(this);
     host_->Grid.Resize();
-    host_->Refusals.Follow();
+    if (self) host_->Refusals.Follow();
 }
 
 void QuillgridWidget::mousePressEvent(QMouseEvent* event) {

@@ -17,7 +17,8 @@ class WidgetHost;
 /// The control as a Qt widget: put it into a layout, define cells through `grid()`, connect the signals.
 ///
 /// Signals carry what the control's events carry. Their by-reference arguments are pointers, valid only
-/// during the signal, so connect them directly (the default within one thread). A slot may delete the widget.
+/// during the signal, so connect them directly (the default within one thread). A slot may delete the widget;
+/// while Qt hides or resizes it only with deleteLater, as Qt looks at it afterwards.
 class QuillgridWidget : public QWidget {
     Q_OBJECT
 
