@@ -60,7 +60,8 @@ void PropertySetter::ShowFirstRow() {
         selector_.Select(1);
     } else {
         view_.ShowFrom(1);
-        state_.CurrentRow = 1;
+        state_.Current = state_.RowCell(1);
+        state_.CurrentRow = state_.Current ? 1 : 0;
     }
 }
 

@@ -338,6 +338,15 @@ TEST(Hostile, CellsOutliveTheControlHarmlessly) {
     cell->Undo();
 }
 
+TEST(Hostile, AStyleThatTheContainerRefusesLeavesNoRowWithoutACell) {
+    HeadlessHost host({300, 120}, "de-DE", false);
+    host.Grid->Clear();
+    host.Site.OnChanged = [](std::string_view) { throw std::runtime_error("container"); };
+    EXPECT_THROW(host.Grid->SetStyle(qgstDefault), std::runtime_error);
+    EXPECT_EQ(host.Grid->CurrentRow(), 0);
+    EXPECT_EQ(host.Grid->Cell(), nullptr);
+}
+
 TEST(Hostile, AnExceptionInValidationLeavesNoErrorBehind) {
     HeadlessHost host;
     Fill(host);

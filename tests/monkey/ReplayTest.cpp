@@ -22,6 +22,11 @@ const Replay Replays[] = {
     {"another style scrolled away under the edit box of a cell that held the user",
      "create 2298198251 3717421282 0\ncell-call 170805312 1140303819 0\ntype-text 4130240466 0 0\n"
      "arm 1433057833 1498860211 0\nstyle 0 0 0\n"},
+    {"a row without a cell was current when the container threw at a new style",
+     "terminate 0 0 0\nkey 0 0 0\nrules 0 0 0\narm 0 0 0\narm 0 0 0\ntype 0 0 0\npress 0 0 0\n"
+     "cell-call 0 0 0\nscroll 0 0 0\ndrop 0 0 0\nrules 0 0 0\nkey 0 0 0\narm 0 0 0\n"
+     "rules 4263014487 0 0\narm 3139788955 256689338 0\narm 2172960138 1928189979 0\n"
+     "set-property 4200404872 0 0\n"},
 };
 
 TEST(Monkey, WhatItOnceBrokeStaysMended) {
