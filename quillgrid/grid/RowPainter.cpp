@@ -72,6 +72,8 @@ void RowPainter::PaintButton(const Cell& cell, std::int32_t row, const Rect& str
         canvas_.Line({area.Left, area.Top}, {area.Left, area.Bottom}, ColourLight3D);
     } else {
         canvas_.Fill(area, state_.Colours.CellBackground);
+        // The value's own edge goes on around a flat strip.
+        if (!state_.Layout.PropertyList) canvas_.Edge(state_.ValueArea(row), EdgeKind::Sunken);
         if (look == ButtonLook::Pressed) canvas_.Edge(area, EdgeKind::SunkenOuter);
         if (look == ButtonLook::Hot) canvas_.Edge(area, EdgeKind::RaisedInner);
     }
@@ -108,7 +110,9 @@ void RowPainter::PaintPercent(const Cell& cell, const Rect& value, bool plain) {
     const Rect area = PercentArea(value);
     const std::string text = ShownText(cell, state_.Settings);
     TextStyle style{ValueFont(cell, state_.Settings), ValueInk(cell, state_), qgalCenter};
-    canvas_.Text(area, text, style);
+    // On one line with the texts of the other rows, though the bar is not centred in a property list.
+    const Rect line{area.Left, value.Top, area.Right, value.Bottom};
+    canvas_.Text(line, text, style);
     const std::int64_t percentage = std::clamp<std::int64_t>(cell.PercentValue().ToInteger(), 0, 100);
     if (plain || percentage == 0) return;
     Rect filled = area;
@@ -117,7 +121,7 @@ void RowPainter::PaintPercent(const Cell& cell, const Rect& value, bool plain) {
     canvas_.SetClip(Intersection(filled, clip_));
     canvas_.Fill(filled, cell.FillColor());
     style.Ink = ColourHighlightText;
-    canvas_.Text(area, text, style);
+    canvas_.Text(line, text, style);
     canvas_.SetClip(clip_);
 }
 

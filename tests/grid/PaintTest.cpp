@@ -120,9 +120,9 @@ TEST(Paint, SwatchesImagesAndPercentBars) {
     EXPECT_THAT(canvas.Calls(), Contains("fill 27,15 - 35,23 #ff0000"));
     EXPECT_THAT(canvas.Calls(), Contains("image 26,29 - 42,45"));
     EXPECT_THAT(canvas.Calls(), Contains("text 46,29 - 286,45 '5,00 \u20ac' sys8 right"));
-    EXPECT_THAT(canvas.Calls(), Contains("text 24,47 - 289,64 '50,00 %' sys8 centre"));
+    EXPECT_THAT(canvas.Calls(), Contains("text 24,46 - 289,64 '50,00 %' sys8 centre"));
     EXPECT_THAT(canvas.Calls(), Contains("fill 24,47 - 157,64 sys1"));
-    EXPECT_THAT(canvas.Calls(), Contains("text 24,47 - 289,64 '50,00 %' sys14 centre"));
+    EXPECT_THAT(canvas.Calls(), Contains("text 24,46 - 289,64 '50,00 %' sys14 centre"));
 }
 
 TEST(Paint, OnlyAnEntryThatIsAColourHasASwatch) {
@@ -219,6 +219,26 @@ TEST(Paint, ButtonsFollowTheAppearance) {
     EXPECT_THAT(button(qgapTrack3D), ElementsAre("glyph 173,10 - 189,28 clock"));
     host.Grid->Cell()->SetButton(static_cast<ButtonStyleConstants>(99));
     EXPECT_THAT(button(qgapFlat), ::testing::IsEmpty()) << "no such glyph";
+}
+
+TEST(Paint, AFlatButtonDoesNotInterruptTheEdgeOfItsValue) {
+    HeadlessHost host({200, 80});
+    host.Grid->SetStyle(qgstDefault);
+    host.Grid->SetAppearance(qgapFlat);
+    const auto cell = host.Grid->Add({.Caption = Variant("When"), .CellTemplate = qgctDate});
+    host.Grid->Refresh();
+    const Rect value = host.Grid->ValueArea(*cell);
+    const std::string edge = "edge " + std::to_string(value.Left) + "," + std::to_string(value.Top);
+    const auto calls = host.Paint().Calls();
+    const auto starting = [&calls](std::size_t from, const std::string& start) {
+        while (from < calls.size() && calls[from].rfind(start, 0) != 0)
+            ++from;
+        return from;
+    };
+    const std::size_t strip =
+        starting(0, "fill " + std::to_string(value.Right - 16) + "," + std::to_string(value.Top));
+    ASSERT_LT(strip, calls.size());
+    EXPECT_LT(starting(strip, edge), calls.size()) << "the strip covers the edge for good";
 }
 
 TEST(Paint, GroupMarginShowsWhichGroupsAreOpen) {
