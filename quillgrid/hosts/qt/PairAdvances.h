@@ -18,9 +18,10 @@ public:
     std::optional<double> WidthOf(std::string_view text, const QFontMetricsF& metrics);
 
 private:
-    double AdvanceBefore(char character, char next, const QFontMetricsF& metrics);
-    double AdvanceAtEnd(char character, const QFontMetricsF& metrics);
-    float& Known(char character, std::size_t column);
+    double KnownWidth(std::string_view text) const;
+    void Learn(std::string_view text, const QFontMetricsF& metrics);
+    void LearnPair(char character, char next, const QFontMetricsF& metrics);
+    double LearnEnd(char character, const QFontMetricsF& metrics);
 
     std::size_t asked_ = 0;
     std::vector<float> known_; ///< by character, then by the next one or the end; not a number: not yet
