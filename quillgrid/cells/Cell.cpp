@@ -94,6 +94,10 @@ void Cell::Define(DefineArguments arguments) {
 void Cell::DefineData(DataArguments arguments) {
     const auto alive = weak_from_this().lock();
     const SilentScope silent(link_);
+    ApplyData(std::move(arguments));
+}
+
+void Cell::ApplyData(DataArguments&& arguments) {
     SetFormat(std::move(arguments.newFormat));
     SetMaxLength(arguments.newMaxLength);
     if (arguments.newMin) SetMin(std::move(*arguments.newMin));
@@ -101,8 +105,7 @@ void Cell::DefineData(DataArguments arguments) {
     if (arguments.newDefault) SetDefault(std::move(*arguments.newDefault));
     SetAllowEmpty(arguments.newAllowEmpty);
     SetValidationRule(arguments.NewValidationRule);
-    SetValue(std::move(arguments.NewValue));
-    SetChanged(false);
+    DefineValue(std::move(arguments.NewValue));
 }
 
 void Cell::DefineLayout(LayoutArguments arguments) {

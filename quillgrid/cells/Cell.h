@@ -250,6 +250,11 @@ private:
     }
     /// As `SetValue`, by the control itself.
     void AssignValue(Variant value);
+    // For those who keep the cell alive and the control silent.
+    void ApplyData(DataArguments&& arguments);
+    /// As `SetValue`; afterwards this is the value to return to.
+    void DefineValue(Variant&& value);
+    void AssignKept(Variant&& value);
     const DataBinding& Binding() const;
     void SetBinding(std::string DataBinding::*field, std::string name);
     /// Defaults take no memory.

@@ -23,25 +23,30 @@ void SetBounds(DataArguments& data, TemplateBounds bounds) {
 
 } // namespace
 
-void CellDefinition::Apply(DefineArguments arguments) {
+void CellDefinition::Apply(DefineArguments&& arguments) {
     Variant value = arguments.NewValue ? std::move(*arguments.NewValue) : cell_.state_.Value;
     cell_.state_.Group = std::move(arguments.NewGroup);
     cell_.state_.Template = arguments.NewCellTemplate;
     cell_.SetValidationRule(qgvrNone);
     cell_.SetStyle(qgcsText);
     if (arguments.NewCaption) cell_.SetCaption(ToText(*arguments.NewCaption, cell_.UserLocale()));
-    cell_.SetMin(Variant::Null());
-    cell_.SetMax(Variant::Null());
-    cell_.SetDefault(Variant::Null());
+    ClearBounds();
     if (const auto* row = FindTemplate(arguments.NewCellTemplate)) {
         ApplyTemplate(*row, std::move(value));
     } else {
-        cell_.SetValue(std::move(value));
+        cell_.DefineValue(std::move(value));
     }
     cell_.SetChanged(false);
 }
 
-void CellDefinition::ApplyTemplate(const CellTemplate& row, Variant newValue) {
+void CellDefinition::ClearBounds() {
+    if (!cell_.extras_) return; // the cell has none
+    cell_.SetMin(Variant::Null());
+    cell_.SetMax(Variant::Null());
+    cell_.SetDefault(Variant::Null());
+}
+
+void CellDefinition::ApplyTemplate(const CellTemplate& row, Variant&& newValue) {
     if (row.Unit) cell_.SetUnit(std::string(*row.Unit));
     if (!row.Data) {
         ApplySettings(row);
@@ -55,18 +60,18 @@ void CellDefinition::ApplyTemplate(const CellTemplate& row, Variant newValue) {
     cell_.SetFillColor(DefaultsOf(cell_.Owner()).FillColor);
 }
 
-void CellDefinition::AssignValue(const CellTemplate& row, Variant newValue) {
+void CellDefinition::AssignValue(const CellTemplate& row, Variant&& newValue) {
     Variant value = StartValue(row, std::move(newValue));
-    if (!row.Data) return cell_.SetValue(std::move(value));
+    if (!row.Data) return cell_.DefineValue(std::move(value));
     DataArguments data{.NewValue = std::move(value),
                        .NewValidationRule = row.Data->Rule,
                        .newFormat = std::string(row.Data->Format),
                        .newMaxLength = row.Data->MaxLength};
     SetBounds(data, row.Data->Bounds);
-    cell_.DefineData(std::move(data));
+    cell_.ApplyData(std::move(data));
 }
 
-Variant CellDefinition::StartValue(const CellTemplate& row, Variant newValue) const {
+Variant CellDefinition::StartValue(const CellTemplate& row, Variant&& newValue) const {
     switch (row.Value) {
     case TemplateValue::Given: break;
     case TemplateValue::Present: return cell_.Value();
@@ -77,7 +82,7 @@ Variant CellDefinition::StartValue(const CellTemplate& row, Variant newValue) co
         if (!number || !(*number >= FirstSalutation && *number <= LastSalutation)) return FirstSalutation;
     }
     }
-    return newValue;
+    return std::move(newValue);
 }
 
 void CellDefinition::ApplyLayout(const CellTemplate& row) {

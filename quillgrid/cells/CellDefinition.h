@@ -11,14 +11,15 @@ class CellDefinition {
 public:
     explicit CellDefinition(Cell& cell) : cell_(cell) {}
 
-    void Apply(DefineArguments arguments);
+    void Apply(DefineArguments&& arguments);
 
 private:
-    void ApplyTemplate(const CellTemplate& row, Variant newValue);
+    void ClearBounds();
+    void ApplyTemplate(const CellTemplate& row, Variant&& newValue);
     void ApplyLayout(const CellTemplate& row);
     void ApplySettings(const CellTemplate& row);
-    void AssignValue(const CellTemplate& row, Variant newValue);
-    Variant StartValue(const CellTemplate& row, Variant newValue) const;
+    void AssignValue(const CellTemplate& row, Variant&& newValue);
+    Variant StartValue(const CellTemplate& row, Variant&& newValue) const;
 
     Cell& cell_;
 };

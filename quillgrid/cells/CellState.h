@@ -23,20 +23,17 @@ struct CellState {
     std::string Text;
     std::string Format;
     std::string Group;
-    quillgrid::Label Label;
-    std::array<Rect, 4> Areas{}; ///< by CellArea, with the scroll offset added
-    std::int32_t ScrollOffset = 0;
     std::int32_t ListIndex = -1;
     std::int32_t MaxLength = 50;
     Colour ForeColor = ColourWindowText;
     Colour InheritedForeColor = ColourWindowText;
-    CellTemplateConstants Template = qgctNone;
     ValidationRuleConstants Rule = qgvrNone;
     ValidationErrConstants ErrorCode = qgErrNone;
     CellStyleConstants Style = qgcsText;
     ButtonStyleConstants Button = qgbtNone;
     AlignmentConstants Alignment = qgalLeftJustify;
     CharCaseConstants CharCase = qgccNone;
+    CellTemplateConstants Template = qgctNone;
     bool Visible : 1 = true;
     bool Enabled : 1 = true;
     bool DataVisible : 1 = true;
@@ -49,7 +46,11 @@ struct CellState {
     bool Changed : 1 = false;
     bool Repaint : 1 = false;   ///< colour or font changed since the row was painted
     bool StaleText : 1 = false; ///< something that the text depends on changed since it was made
+    bool Defining : 1 = false;  ///< values on the way are none to return to
     bool Sample : 1 = false;    ///< made by the control to fill an empty form, and not touched since
+    quillgrid::Label Label;
+    std::int32_t ScrollOffset = 0;
+    std::array<Rect, 4> Areas{}; ///< by CellArea, with the scroll offset added
 };
 
 } // namespace quillgrid

@@ -69,8 +69,22 @@ void Cell::SetValue(Variant value) {
     AssignValue(std::move(value));
 }
 
+void Cell::DefineValue(Variant&& value) {
+    struct Scope {
+        CellState& State;
+        ~Scope() { State.Defining = false; }
+    } const scope{state_};
+    Edit().Defining = true;
+    AssignKept(std::move(value));
+    SetChanged(false);
+}
+
 void Cell::AssignValue(Variant value) {
     const auto alive = weak_from_this().lock();
+    AssignKept(std::move(value));
+}
+
+void Cell::AssignKept(Variant&& value) {
     if (IsList() && !IsBoolean() && std::as_const(*this).Listitems().Count() == 0) {
         SetRare(&CellExtras::ItemData, value); // entries may come later and are then searched for it
         state_.ListIndex = -1;
@@ -140,7 +154,7 @@ void Cell::Take(std::optional<Variant> accepted) {
 
 /// The value to return to is kept apart from the first assignment that leaves it.
 void Cell::StoreValue(Variant value) {
-    if (!state_.UndoValue && !(state_.Value == value)) {
+    if (!state_.UndoValue && !state_.Defining && !(state_.Value == value)) {
         state_.UndoValue = std::make_unique<Variant>(std::move(state_.Value));
     }
     state_.Value = std::move(value);

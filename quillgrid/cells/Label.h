@@ -58,14 +58,15 @@ public:
     }
 
 private:
-    std::string caption_;
-    std::unique_ptr<std::string> display_; ///< only where it differs from the caption
-    Rect place_;
-    std::array<std::int32_t, 3> layoutValues_{};
-    std::int32_t width_ = 0;
+    // What is read of all labels whenever a form is laid out stands together.
     std::uint32_t round_ = 0; ///< none
     std::int32_t accessKey_ = 0;
+    std::int32_t width_ = 0;
+    std::unique_ptr<std::string> display_; ///< only where it differs from the caption
+    std::string caption_;
     std::int32_t scrollOffset_ = 0;
+    Rect place_;
+    std::array<std::int32_t, 3> layoutValues_{};
     AlignmentConstants alignment_ = qgalLeftJustify;
 };
 
