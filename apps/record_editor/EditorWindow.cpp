@@ -307,7 +307,10 @@ bool EditorWindow::saveRecord() {
         return true;
     }
     const auto saved = form_->Save();
-    showResult(saved, QStringLiteral("Not saved: "));
+    if (saved && saved->isEmpty())
+        showHint(widget_->grid().Cell());
+    else
+        showMessage(saved ? *saved : QString(u"Not saved: " + saved.Message()));
     showState();
     return static_cast<bool>(saved);
 }

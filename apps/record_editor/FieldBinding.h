@@ -36,6 +36,8 @@ public:
     const FieldValue& Loaded() const { return loaded_; }
     /// False while the cell shows a value that does not fit its rule.
     bool Fits() const { return fits_; }
+    /// Whether the value is a password: no message tells it.
+    bool IsSecret() const { return cell_->Template() == qgctPassword; }
     /// What the user should know about the shown value, "" when nothing.
     QString Hint() const;
 

@@ -164,23 +164,33 @@ Outcome<QList<FieldChange>> RecordForm::Changes() const {
         if (!bindings_[i].IsChanged()) continue;
         const auto value = bindings_[i].ToDatabase();
         if (!value) return value.Reason();
-        changes << FieldChange{static_cast<qsizetype>(i), *value, bindings_[i].Loaded()};
+        changes << FieldChange{static_cast<qsizetype>(i), *value, bindings_[i].Loaded(),
+                               bindings_[i].IsSecret()};
     }
     return changes;
 }
 
-Outcome<Done> RecordForm::Save() {
+Outcome<QString> RecordForm::Save() {
     const auto changes = Changes();
     if (!changes) return changes.Reason();
-    if (isNew_) return Insert(*changes);
-    if (auto saved = store_.Update(position_, *changes); !saved) return saved;
-    return Show(position_);
+    const auto position = Write(*changes);
+    return position ? ShowSaved(*position) : Outcome<QString>(position.Reason());
 }
 
-Outcome<Done> RecordForm::Insert(const QList<FieldChange>& changes) {
-    const auto position = store_.Insert(changes);
-    if (!position) return position.Reason();
-    return Show(*position);
+Outcome<qsizetype> RecordForm::Write(const QList<FieldChange>& changes) {
+    if (isNew_) return store_.Insert(changes);
+    if (const auto saved = store_.Update(position_, changes); !saved) return saved.Reason();
+    return position_;
+}
+
+/// A trigger may have moved the record to another key, or taken it away. It is saved all the same.
+Outcome<QString> RecordForm::ShowSaved(qsizetype position) {
+    const auto shown = Show(position);
+    if (shown) return QString();
+    const auto read = store_.Open();
+    if (!read || !Show(std::min(position, Count() - 1))) ShowNew();
+    return QStringLiteral("Saved, but the database keeps the record under another key: %1")
+        .arg(shown.Message());
 }
 
 FieldBinding* RecordForm::BindingOf(const Cell& cell) {

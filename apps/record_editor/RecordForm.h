@@ -44,8 +44,9 @@ public:
     /// Loads the shown record again, dropping changes.
     Outcome<Done> Revert();
     bool IsModified() const;
-    /// Writes what the user changed. On failure the user's input stays in the cells.
-    Outcome<Done> Save();
+    /// Writes what the user changed. On failure the user's input stays in the cells. What the user should
+    /// know on success, "" when nothing.
+    Outcome<QString> Save();
 
     /// The binding of a cell, null for cells of others.
     FieldBinding* BindingOf(const Cell& cell);
@@ -56,7 +57,8 @@ private:
 
     void MakeCells(const QList<ColumnRule>& rules, const FormSettings& settings, bool postgres);
     Outcome<QList<FieldChange>> Changes() const;
-    Outcome<Done> Insert(const QList<FieldChange>& changes);
+    Outcome<qsizetype> Write(const QList<FieldChange>& changes);
+    Outcome<QString> ShowSaved(qsizetype position);
     void MakeGroups();
     void Fill(const QList<FieldValue>& values);
     void FillNew();

@@ -1,23 +1,14 @@
 #include "apps/record_editor/RecordStore.h"
 
-#include "apps/record_editor/ColumnType.h"
-
-#include <algorithm>
 #include <numeric>
 
 namespace quillgrid::editor {
 namespace {
 
-bool IsSecret(const Column& column) {
-    return std::any_of(column.Types.begin(), column.Types.end(), [](const QString& declared) {
-        return ColumnType(declared).Template() == qgctPassword;
-    });
-}
-
-QString ChangedMessage(const Column& column, const FieldValue& now) {
+QString ChangedMessage(const Column& column, const FieldValue& now, bool secret) {
     const QString holds = QStringLiteral("; it now holds “%1”").arg(now.Text.left(60));
     return QStringLiteral("Someone else changed “%1” meanwhile%2. Revert to load the record again.")
-        .arg(column.Name, IsSecret(column) ? QString() : holds);
+        .arg(column.Name, secret ? QString() : holds);
 }
 
 QString Reason(const QSqlQuery& rows) {
@@ -40,6 +31,7 @@ bool RecordStore::CanWrite() const {
 
 Outcome<Done> RecordStore::Open() {
     keys_.clear();
+    count_ = 0;
     return schema_.HasKey() ? ReadKeys() : CountRows();
 }
 
@@ -134,7 +126,7 @@ Outcome<Done> RecordStore::CheckUnchanged(qsizetype position, const QList<FieldC
     for (int i = 0; i < changes.size(); ++i) {
         const auto now = FieldValue::FromQuery(rows->value(2 * i).toString(), rows->value(2 * i + 1));
         if (now == changes[i].Loaded) continue;
-        return Failure{ChangedMessage(schema_.Columns[columns[i]], now)};
+        return Failure{ChangedMessage(schema_.Columns[columns[i]], now, changes[i].Secret)};
     }
     return Done{};
 }

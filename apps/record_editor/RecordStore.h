@@ -15,6 +15,7 @@ struct FieldChange {
     qsizetype Column = 0; ///< position in the schema
     QVariant Value;       ///< to bind
     FieldValue Loaded{};  ///< what was read, to see whether someone else changed it meanwhile
+    bool Secret = false;  ///< what the database holds is shown to nobody
 };
 
 /// The rows of one table. Only their keys are held; a row is read when it is asked for.

@@ -61,6 +61,32 @@ TEST(RecordForm, NumbersWithoutAScaleShowTheDecimalsTheyHave) {
     EXPECT_EQ(form.Type("whole", "0.25"), "0.25");
 }
 
+TEST(RecordForm, ARecordThatATriggerMovesToAnotherKeyIsSaved) {
+    Form form(QStringLiteral(
+        "CREATE TABLE t (id INTEGER PRIMARY KEY, s TEXT);\nINSERT INTO t VALUES (1, 'x'), (2, 'y');\n"
+        "CREATE TRIGGER mv AFTER UPDATE OF s ON t BEGIN UPDATE t SET id = id + 10 WHERE id = new.id; "
+        "END;\n"));
+    form.Type("s", "z");
+    const auto saved = form.Shown->Save();
+    ASSERT_TRUE(saved) << saved.Message().toStdString();
+    EXPECT_TRUE(saved->contains(QStringLiteral("another key"))) << saved->toStdString();
+    EXPECT_EQ(form.File.Ask(QStringLiteral("SELECT s FROM t WHERE id = 11")), QStringLiteral("z"));
+    EXPECT_EQ(form.At("s").Text(), "y") << "the record that stands there now";
+    EXPECT_FALSE(form.Shown->IsModified());
+}
+
+TEST(RecordForm, NobodyIsToldAPasswordThatSomeoneElseSetMeanwhile) {
+    Form form(
+        QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, p TEXT);\nINSERT INTO t VALUES (1, 'old');\n"
+                       "CREATE TABLE data_dictionary (table_name TEXT, column_name TEXT, Template INTEGER);\n"
+                       "INSERT INTO data_dictionary VALUES ('t', 'p', 6);\n"));
+    form.File.Execute(QStringLiteral("UPDATE t SET p = 'theirs'"));
+    form.Type("p", "mine");
+    const std::string refused = form.Save();
+    EXPECT_NE(refused.find("“p”"), std::string::npos) << refused;
+    EXPECT_EQ(refused.find("theirs"), std::string::npos) << refused;
+}
+
 TEST(RecordForm, SavesOnlyWhatTheUserChanged) {
     Form form(QStringLiteral(
         "CREATE TABLE t (id INTEGER PRIMARY KEY, n INTEGER, s TEXT, money CURRENCY_TEXT);\n"

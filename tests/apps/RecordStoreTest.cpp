@@ -97,10 +97,11 @@ TEST(RecordStore, NeverTakesAnUnknownColumnForAText) {
 }
 
 TEST(RecordStore, KeepsPasswordsToItself) {
-    const TestDatabase file(QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, p PASSWORD_TEXT);\n"
+    const TestDatabase file(QStringLiteral("CREATE TABLE t (id INTEGER PRIMARY KEY, p TEXT);\n"
                                            "INSERT INTO t VALUES (1, 'old');\n"));
     Opened opened(file, QStringLiteral("t"));
-    const FieldChange change = opened.Change(0, 1, QStringLiteral("mine"));
+    FieldChange change = opened.Change(0, 1, QStringLiteral("mine"));
+    change.Secret = true;
     file.Execute(QStringLiteral("UPDATE t SET p = 'theirs'"));
     const auto changed = opened.Store.Update(0, {change});
     ASSERT_FALSE(changed);
