@@ -153,11 +153,13 @@ bool CellEditor::TypeIntoList(const Cell& cell, char32_t character) {
 }
 
 bool CellEditor::TypeIntoText(const Cell& cell, char32_t& character) {
-    if (!IsEditable(cell, state_.Settings.UserLevel)) return Refuse();
     if (character == Space && PressSpace(cell)) return true;
+    if (!IsEditable(cell, state_.Settings.UserLevel)) return Refuse();
     const std::string filter = KeyFilterOf(cell, commit_.Context().Separators, locale_);
-    if (!filter.empty() && TypeThroughFilter(cell, filter, character)) return true;
+    if (!filter.empty() && !ContainsIgnoreCase(filter, character))
+        return stepper_.Step(character) || Refuse();
     if (IsFull(cell)) return Refuse();
+    if (GoesToFront(cell, character)) return PutMinusInFront();
     if (filter.empty() && cell.CharCase() != qgccNone) character = InCaseOf(cell, character);
     return false;
 }
@@ -173,11 +175,10 @@ bool CellEditor::PressSpace(const Cell& cell) {
     return true;
 }
 
-bool CellEditor::TypeThroughFilter(const Cell& cell, const std::string& filter, char32_t character) {
-    if (!ContainsIgnoreCase(filter, character)) return stepper_.Step(character) || Refuse();
+bool CellEditor::GoesToFront(const Cell& cell, char32_t character) const {
     const ValidationRuleConstants rule = cell.ValidationRule();
     const bool fraction = rule == qgvrCurrency || rule == qgvrEuro || rule == qgvrDouble;
-    return character == U'-' && fraction && seat_.Box().SelectionStart() != 0 && PutMinusInFront();
+    return character == U'-' && fraction && seat_.Box().SelectionStart() != 0;
 }
 
 bool CellEditor::PutMinusInFront() {

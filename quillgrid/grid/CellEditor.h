@@ -51,7 +51,7 @@ private:
     bool TypeIntoText(const Cell& cell, char32_t& character);
     char32_t InCaseOf(const Cell& cell, char32_t character) const;
     bool PressSpace(const Cell& cell);
-    bool TypeThroughFilter(const Cell& cell, const std::string& filter, char32_t character);
+    bool GoesToFront(const Cell& cell, char32_t character) const;
     bool PutMinusInFront();
     bool Refuse();
     bool IsFull(const Cell& cell) const;

@@ -19,6 +19,7 @@ void EditSeat::Seat() {
     if (!MayShow()) return Hide();
     const auto cell = state_.Current;
     const bool another = !IsSeatedOn(*cell);
+    if (another) Empty(); // a password must not stand there in the look of the next cell
     shown_ = true;
     box_.SetLook(LookFor(*cell, cell->ErrorCode() != qgErrNone));
     box_.Place(Area(*cell));
@@ -81,6 +82,11 @@ Rect EditSeat::Area(const Cell& cell) const {
     Rect area = LayOutValue(cell, value, state_.Layout, images_, true).EditArea;
     area.Bottom = std::max(area.Top, std::min(area.Bottom, state_.Layout.Content.Bottom));
     return area;
+}
+
+void EditSeat::Empty() {
+    filled_.clear();
+    box_.SetText({});
 }
 
 void EditSeat::Fill(const std::shared_ptr<Cell>& cell) {

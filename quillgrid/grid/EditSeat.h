@@ -41,6 +41,7 @@ private:
     EditBox::Look LookFor(const Cell& cell, bool error) const;
     Rect Area(const Cell& cell) const;
     bool MayShow() const;
+    void Empty();
     void Fill(const std::shared_ptr<Cell>& cell);
 
     const GridState& state_;

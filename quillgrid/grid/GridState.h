@@ -5,6 +5,7 @@
 #include "quillgrid/grid/EffectiveColours.h"
 #include "quillgrid/grid/GridLayout.h"
 #include "quillgrid/grid/GridSettings.h"
+#include "quillgrid/grid/TabPolicy.h"
 #include "quillgrid/platform/Glyph.h"
 
 #include <cstdint>
@@ -39,6 +40,7 @@ struct GridState {
     MousePart Hot;     ///< under the pointer
     MousePart Pressed; ///< held down
     std::string CurrentGroup;
+    TabPolicy Tab = TabPolicy::LeaveAtEnds;
     bool UserMode = true;
     bool Silent = false;
     bool ResortNeeded = true;

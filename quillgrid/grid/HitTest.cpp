@@ -7,7 +7,7 @@ namespace {
 HitPlace PlaceInRow(const GridLayout& layout, std::int32_t place, Point point) {
     const Rect value = layout.ValueArea(place);
     if (value.Contains(point)) {
-        return layout.ButtonArea(value).Contains(point) ? HitPlace::Strip : HitPlace::Value;
+        return point.X > value.Right - layout.ButtonWidth ? HitPlace::Strip : HitPlace::Value;
     }
     return layout.LabelArea(place).Contains(point) ? HitPlace::Label : HitPlace::Nowhere;
 }

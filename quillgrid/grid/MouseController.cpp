@@ -81,7 +81,7 @@ void MouseController::Release(Point position) {
     with_.Spin.Stop();
     const Hit hit = HitAt(position);
     const Rect menu = state_.Layout.MenuBox;
-    SetPressed({});
+    const LetGo afterwards(*this); // a menu that a handler opens hangs from a pressed box
     if (hit.Place == HitPlace::CloseBox) return with_.Events.CloseBoxClick();
     if (hit.Place == HitPlace::MenuBox) {
         with_.Events.MenuClick(static_cast<float>(site_.ToContainerUnits(menu.Left)),
@@ -122,6 +122,7 @@ void MouseController::SetHot(const MousePart& part) {
 }
 
 void MouseController::RepaintPart(const MousePart& part) {
+    if (state_.Terminated) return;
     const GridLayout& layout = state_.Layout;
     switch (part.Place) {
     case MousePart::Kind::CloseBox: return window_.Invalidate(layout.CloseBox);

@@ -42,6 +42,18 @@ public:
     void DoubleClick();
 
 private:
+    /// Nothing is pressed any more at its end, whatever handlers do until then.
+    class LetGo {
+    public:
+        explicit LetGo(MouseController& mouse) : mouse_(mouse) {}
+        ~LetGo() { mouse_.SetPressed({}); }
+        LetGo(const LetGo&) = delete;
+        LetGo& operator=(const LetGo&) = delete;
+
+    private:
+        MouseController& mouse_;
+    };
+
     Hit HitAt(Point position) const;
     void PressRow(const Hit& hit, Point position);
     void PressImage(const std::shared_ptr<Cell>& cell);

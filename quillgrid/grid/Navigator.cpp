@@ -30,12 +30,16 @@ void Navigator::PastTheEnd(std::int32_t wrapTo) {
 }
 
 bool Navigator::NextByTab(bool backwards) {
-    const std::int32_t row = CellBeyond(state_.CurrentRow, backwards ? -1 : 1);
+    const std::int32_t step = backwards ? -1 : 1;
+    if (state_.Tab == TabPolicy::Leave) return commit_.CommitInPlace() != CommitResult::Done;
+    const std::int32_t row = CellBeyond(state_.CurrentRow, step);
     if (row > 0) {
         selector_.Select(row);
         return true;
     }
-    return !CommitBeforeLeaving();
+    if (state_.Tab == TabPolicy::LeaveAtEnds) return !CommitBeforeLeaving();
+    PastTheEnd(CellBeyond(backwards ? state_.RowCount() + 1 : 0, step));
+    return true;
 }
 
 bool Navigator::CommitBeforeLeaving() {

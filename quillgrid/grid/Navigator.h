@@ -18,8 +18,8 @@ public:
     void NextCell();
     /// The mirror image.
     void PreviousCell();
-    /// The next cell that is no heading. False: there is none, the value is committed, and the focus may go
-    /// on to another control.
+    /// To the next cell that is no heading, as the tab policy has it. False: the value is committed, and the
+    /// focus may go on to another control.
     bool NextByTab(bool backwards);
     void FirstRow() { selector_.Select(1); }
     void LastRow() { selector_.Select(state_.RowCount()); }

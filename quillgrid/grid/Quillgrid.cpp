@@ -201,6 +201,10 @@ void Quillgrid::KeyUp(std::int32_t keyCode, std::int32_t shift) {
     core->Editor.KeyUp(keyCode, shift);
 }
 
+void Quillgrid::SetTabPolicy(TabPolicy policy) {
+    core_->State.Tab = policy;
+}
+
 void Quillgrid::MouseDown(Point position) {
     const Core core = core_;
     core->Mouse.Press(position);
@@ -267,6 +271,10 @@ void Quillgrid::FocusLost() {
 
 bool Quillgrid::PasteAllowed() const {
     return core_->Editor.PasteAllowed();
+}
+
+bool Quillgrid::HoldsTypedText() const {
+    return core_->Seat.IsEdited();
 }
 
 Rect Quillgrid::ValueArea(const class Cell& cell) const {

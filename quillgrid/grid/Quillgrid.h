@@ -11,6 +11,7 @@
 #include "quillgrid/cells/Properties.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/PublishedEvents.h"
+#include "quillgrid/grid/TabPolicy.h"
 #include "quillgrid/platform/Canvas.h"
 #include "quillgrid/platform/PropertyBag.h"
 #include "quillgrid/platform/Record.h"
@@ -286,6 +287,8 @@ public:
     bool KeyPress(char32_t& character);
     /// After the edit box has handled the key.
     void KeyUp(std::int32_t keyCode, std::int32_t shift);
+    /// Where Tab leads; a host's own choice, saved with no form.
+    void SetTabPolicy(TabPolicy policy);
     /// Left button.
     void MouseDown(Point position);
     /// Left button.
@@ -317,6 +320,8 @@ public:
 
     /// Whether a paste, a drop or composed text may go into the edit box; hosts beep otherwise.
     bool PasteAllowed() const;
+    /// Whether the edit box holds a text of the user's that the cell has not taken yet.
+    bool HoldsTypedText() const;
     /// Where the cell's value stands on the surface; empty when it is out of view.
     Rect ValueArea(const class Cell& cell) const;
     std::int32_t RowCount() const;

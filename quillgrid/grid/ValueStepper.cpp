@@ -92,7 +92,7 @@ bool ValueStepper::MayChange(const Cell& cell) {
 }
 
 void ValueStepper::Report(const std::shared_ptr<Cell>& cell, const Variant& before) {
-    seat_.Seat();
+    seat_.Refill();
     if (!EqualAsText(before, cell->Value())) events_.Change(*cell);
 }
 

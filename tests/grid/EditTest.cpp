@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace quillgrid {
 namespace {
@@ -325,6 +326,138 @@ TEST_F(Edit, HostMayChangeOrDropKeys) {
     host.Type("c");
     EXPECT_EQ(host.Grid->Cell()->Key(), "name");
     EXPECT_EQ(host.Box.Text(), "bb\U0001F600");
+}
+
+TEST_F(Edit, HandlersTurnOneKeyIntoAnother) {
+    struct Row {
+        std::int16_t From, To, Held;
+        const char* Then; ///< the current cell afterwards
+    };
+    for (const auto& [from, to, held, then] :
+         {Row{quillgrid::KeyDown, quillgrid::KeyUp, 0, "date"}, Row{KeyF1, KeyTab, 0, "count"},
+          Row{KeyF1, KeyTab, ShiftShift, "date"}, Row{KeyEnter, 0, 0, "name"},
+          Row{quillgrid::KeyDown, quillgrid::KeyDown, ShiftAlt, "name"}}) {
+        GoTo("name");
+        const auto connection =
+            host.Grid->KeyWentDown.Connect([&](Cell&, std::int16_t& code, std::int16_t& shift) {
+                if (code == from) std::tie(code, shift) = std::pair(to, held);
+            });
+        host.Press(from);
+        EXPECT_EQ(host.Grid->Cell()->Key(), then) << from << " as " << to;
+    }
+    GoTo("count");
+    const auto digits = host.Grid->KeyPressed.Connect(
+        [](Cell&, std::int16_t& key) { key = static_cast<std::int16_t>(key == 'x' ? '7' : 'x'); });
+    host.Type("x3");
+    EXPECT_EQ(host.Box.Text(), "7") << "what a handler makes of a key passes the filter, and nothing else";
+    EXPECT_THAT(Taken(), ElementsAre("Beep"));
+}
+
+TEST_F(Edit, HandlerThatAlwaysCancelsHoldsTheUserOnceForEachTextTyped) {
+    using Way = void (*)(HeadlessHost&);
+    const Way ways[] = {
+        [](HeadlessHost& h) { h.Press(KeyEnter); },
+        [](HeadlessHost& h) { h.Press(quillgrid::KeyUp); },
+        [](HeadlessHost& h) { h.Press(KeyTab); },
+        [](HeadlessHost& h) { h.Press(KeyPageDown); },
+        [](HeadlessHost& h) { h.Press(KeyHome, ShiftControl); },
+        [](HeadlessHost& h) {
+            h.Grid->MouseDown({12, 70});
+        },
+        [](HeadlessHost& h) { h.Grid->AccessKeyPress(U'f'); },
+        [](HeadlessHost& h) { h.Grid->Cells().Item("flag")->SetFocus(); },
+        [](HeadlessHost& h) { h.LeaveControl(); },
+        [](HeadlessHost& h) { h.Grid->CommitEdit(); },
+        [](HeadlessHost& h) {
+            h.Grid->DropText({100, 30}, "dropped");
+        },
+    };
+    At("flag").SetCaption("&flag");
+    host.Grid->Refresh();
+    host.Grid->ValidateCellError.Listen([](Cell&, ValidationErrConstants&, bool& cancel) { cancel = true; });
+    host.Grid->ValidateCell.Listen([](Cell&, bool& cancel) { cancel = true; });
+    for (const Way& way : ways) {
+        for (const char* text : {"99999999999", "42"}) {
+            SCOPED_TRACE(std::to_string(&way - ways) + text);
+            At("count").SetValue(Variant(5));
+            At("count").Refresh();
+            host.Focus = FocusPlace::EditBox;
+            GoTo("count");
+            host.Type(text);
+            host.Journal.Clear();
+            way(host);
+            const auto first = Taken();
+            EXPECT_EQ(
+                std::count_if(first.begin(), first.end(), [](const auto& e) { return e.starts_with("Val"); }),
+                1);
+            EXPECT_THAT(first, Not(Contains(::testing::StartsWith("Change"))));
+            EXPECT_EQ(host.Grid->Cell()->Key(), "count");
+            EXPECT_EQ(host.Focus, FocusPlace::EditBox);
+            EXPECT_EQ(host.Box.SelectionLength(), host.Box.Text().size()) << "all of it, to be replaced";
+            way(host);
+            EXPECT_THAT(Taken(), Not(Contains(::testing::HasSubstr(" count")))) << "nothing new to check";
+        }
+    }
+}
+
+TEST_F(Edit, LeavingAndComingBackTellTheHostInOrder) {
+    GoTo("name");
+    host.Type("Bob");
+    host.Journal.Clear();
+    host.LeaveControl();
+    EXPECT_THAT(host.Journal.Take(),
+                ElementsAre("repaint 10,28 - 289,46", "ValidateCell name", "repaint 10,28 - 289,46",
+                            "Change name", "repaint 10,28 - 289,46"));
+    host.EnterControl();
+    EXPECT_THAT(host.Journal.Take(), IsEmpty()) << "the same row is current still";
+    EXPECT_EQ(host.Focus, FocusPlace::EditBox);
+}
+
+TEST_F(Edit, DoubleClickIsF4WhereThereIsAButton) {
+    GoTo("flag");
+    At("flag").SetButton(qgbtNone);
+    host.Grid->DoubleClick({100, 80});
+    EXPECT_EQ(At("flag").Text(), "ja");
+    host.Press(KeyF4);
+    EXPECT_EQ(At("flag").Text(), "nein");
+    At("flag").SetButton(qgbtEllipse);
+    host.Grid->DoubleClick({100, 80});
+    EXPECT_EQ(At("flag").Text(), "ja");
+}
+
+TEST_F(Edit, NothingAddsToATextThatIsFull) {
+    At("price").SetMin(Variant(-10));
+    At("price").SetMaxLength(2);
+    GoTo("price");
+    host.Type("123");
+    host.Type("-4"); // neither behind nor in front
+    EXPECT_EQ(host.Box.Text(), "123");
+    EXPECT_EQ(host.Surface.Beeps, 2);
+    host.Type("+"); // no character
+    EXPECT_EQ(At("price").Text(), "124,00 \u20ac");
+}
+
+TEST_F(Edit, EachStepShowsTheValueSelected) {
+    At("price").SetFormat("0"); // both show the same
+    At("price").SetIncrement(*Currency::FromDouble(0.1));
+    host.Grid->Refresh();
+    GoTo("price");
+    host.Box.Select(1, 0);
+    host.Type("+");
+    EXPECT_EQ(host.Box.SelectionLength(), host.Box.Text().size());
+}
+
+TEST_F(Edit, PasswordsStandNowhereWithoutTheirMask) {
+    Add("secret", Variant("geheim"), qgctPassword);
+    host.Grid->Refresh();
+    for (int i = 0; i < 20; ++i)
+        host.Press(i % 3 == 2 ? quillgrid::KeyUp : quillgrid::KeyDown);
+    GoTo("secret");
+    host.LeaveControl();
+    host.EnterControl();
+    GoTo("name");
+    EXPECT_THAT(host.Box.ReadByAll, Contains("Ann"));
+    EXPECT_THAT(host.Box.ReadByAll, Not(Contains("geheim")));
 }
 
 TEST_F(Edit, SilentKeepsChangeAndValidateCellBackUntilRefresh) {

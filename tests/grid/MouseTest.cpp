@@ -168,6 +168,31 @@ TEST_F(MouseTest, ButtonsLookPressedWhileHeldAndHotUnderThePointer) {
     EXPECT_THAT(edges(), IsEmpty());
 }
 
+TEST_F(MouseTest, ButtonsBeginRightOfTheirEdge) {
+    const auto cell = Add("n", Variant(5), qgctSpin);
+    Start();
+    Hold({173, 14});
+    EXPECT_EQ(cell->Text(), "5");
+    Hold({174, 14});
+    EXPECT_EQ(cell->Text(), "6");
+    Hold({188, 19}); // the middle still belongs to the upper half
+    EXPECT_EQ(cell->Text(), "7");
+    Hold({188, 20});
+    EXPECT_EQ(cell->Text(), "6");
+}
+
+TEST_F(MouseTest, HandlersMayDestroyTheControlWithItsCloseBox) {
+    Grid.SetCaption("Form");
+    Grid.SetShowCaption(true);
+    Grid.CloseBoxClick.Listen([&] { Host.Grid.reset(); });
+    Start();
+    Hold({180, 15});
+    Host.Surface.Invalid.clear();
+    LetGo({180, 15});
+    EXPECT_FALSE(Host.Grid);
+    EXPECT_THAT(Host.Surface.Invalid, IsEmpty());
+}
+
 TEST_F(MouseTest, CaptionBoxesAnswerOnRelease) {
     Grid.SetCaption("Form");
     Grid.SetShowCaption(true);
@@ -190,7 +215,12 @@ TEST_F(MouseTest, CaptionBoxesAnswerOnRelease) {
     Hold(close);
     EXPECT_THAT(edge("edge 175,8"), ElementsAre("edge 175,8 - 192,25 sunken-outer"));
     EXPECT_THAT(Events(), IsEmpty());
+    const auto whileHandled = Grid.CloseBoxClick.Connect([&] {
+        EXPECT_THAT(edge("edge 175,8"), ElementsAre("edge 175,8 - 192,25 sunken-outer"))
+            << "until all is done";
+    });
     LetGo(close);
+    EXPECT_THAT(edge("edge 175,8"), ElementsAre("edge 175,8 - 192,25 raised-inner"));
     EXPECT_THAT(Events(), ElementsAre("CloseBoxClick"));
     Hold(close);
     Grid.MouseMove({100, 60}, true);

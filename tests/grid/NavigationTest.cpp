@@ -104,6 +104,36 @@ TEST_F(Navigate, TabSkipsHeadingsAndLeavesAtTheEnds) {
     EXPECT_EQ(host.Grid->CurrentGroup(), "g");
 }
 
+TEST_F(Navigate, TabWrapsOrLeavesAtOnceAsItsPolicySays) {
+    host.Grid->AddGroup({.Key = "g"});
+    host.Grid->SetGrouped(true);
+    host.Grid->Refresh(); // the heading is the first row
+    const auto key = [&] { return host.Grid->Cell()->Key(); };
+    host.Grid->SetTabPolicy(TabPolicy::Wrap);
+    host.Grid->Cells().Item("12")->SetFocus();
+    EXPECT_TRUE(host.Press(KeyTab));
+    EXPECT_EQ(key(), "1");
+    EXPECT_TRUE(host.Press(KeyTab, ShiftShift));
+    EXPECT_EQ(key(), "12");
+    host.Grid->SetAllowWrap(false);
+    host.Journal.Clear();
+    EXPECT_TRUE(host.Press(KeyTab));
+    EXPECT_THAT(host.Journal.Entries(), Contains("LeaveFocus 12"));
+    EXPECT_EQ(key(), "12");
+    EXPECT_FALSE(host.Press(KeyTab, ShiftControl));
+    host.Grid->SetTabPolicy(TabPolicy::Leave);
+    host.Grid->Cells().Item("3")->SetFocus();
+    host.Type("typed");
+    host.Journal.Clear();
+    EXPECT_FALSE(host.Press(KeyTab));
+    EXPECT_EQ(host.Grid->Cells().Item("3")->Text(), "typed");
+    EXPECT_THAT(host.Journal.Entries(), Not(Contains("LeaveFocus 3"))) << "it is not the last cell";
+    EXPECT_EQ(key(), "3");
+    host.Grid->ValidateCell.Listen([](Cell&, bool& cancel) { cancel = true; });
+    host.Type("again");
+    EXPECT_TRUE(host.Press(KeyTab, ShiftShift)) << "the user must stay";
+}
+
 TEST_F(Navigate, WheelAndBarScrollAndTakeTheCurrentRowAlong) {
     host.Grid->MouseWheel(3);
     EXPECT_THAT(Place(), ElementsAre(4, 4));

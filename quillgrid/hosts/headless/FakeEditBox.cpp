@@ -10,6 +10,7 @@ void FakeEditBox::SetText(std::string_view text) {
     text_ = text;
     start_ = CharacterCount(text_);
     length_ = 0;
+    NoteReadable();
 }
 
 void FakeEditBox::Select(std::size_t start, std::size_t length) {
@@ -18,8 +19,13 @@ void FakeEditBox::Select(std::size_t start, std::size_t length) {
     length_ = std::min(length, count - start_);
 }
 
+void FakeEditBox::NoteReadable() {
+    if (CurrentLook.Mask.empty()) ReadByAll.push_back(text_);
+}
+
 void FakeEditBox::SetLook(const Look& look) {
     CurrentLook = look;
+    NoteReadable();
     if (Inks.empty() || Inks.back() != look.Ink) Inks.push_back(look.Ink);
 }
 

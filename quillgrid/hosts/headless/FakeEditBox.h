@@ -16,7 +16,8 @@ public:
     bool Visible = false;
     Rect Area;
     Look CurrentLook;
-    std::vector<Colour> Inks; ///< every text colour that was set, in order
+    std::vector<Colour> Inks;           ///< every text colour that was set, in order
+    std::vector<std::string> ReadByAll; ///< every text that stood there without a mask
 
     std::string Text() const override { return text_; }
     void SetText(std::string_view text) override;
@@ -33,6 +34,7 @@ public:
     void Backspace();
 
 private:
+    void NoteReadable();
     /// Byte position of a character.
     std::size_t Offset(std::size_t character) const;
     void Replace(std::size_t start, std::size_t length, std::string_view with);
