@@ -21,6 +21,8 @@ namespace quillgrid::editor {
 namespace {
 
 constexpr qsizetype LongestMessage = 500;
+constexpr int LeastCharacters = 48; ///< across the window, so that a caption has its value beside it
+constexpr int LeastLines = 16;
 constexpr int LongestTableName = 24; ///< in the chooser, characters
 
 EditorWindow::Answer AskInABox(QWidget* parent) {
@@ -100,6 +102,7 @@ EditorWindow::EditorWindow(std::unique_ptr<Database> database, QList<TableName> 
     makeLines();
     connectGrid();
     showState();
+    setMinimumSize(LeastCharacters * fontMetrics().averageCharWidth(), LeastLines * fontMetrics().height());
     resize(560, 700);
 }
 
@@ -198,6 +201,7 @@ void EditorWindow::connectGrid() {
     connect(widget_, &Widget::validateCell, this, &EditorWindow::checkTyped);
     connect(widget_, &Widget::selChange, this, &EditorWindow::showHint);
     connect(widget_, &Widget::change, this, [this] { showState(); });
+    connect(widget_, &Widget::typingChanged, this, [this] { showState(); });
 }
 
 void EditorWindow::checkTyped(quillgrid::Cell* cell, bool* cancel) {
@@ -386,7 +390,7 @@ void EditorWindow::showMessage(const QString& text, bool isError) {
 void EditorWindow::showState() {
     const bool hasForm = form_ != nullptr;
     const bool canWrite = hasForm && form_->CanWrite();
-    const bool modified = hasForm && form_->IsModified();
+    const bool modified = hasForm && (form_->IsModified() || (canWrite && widget_->holdsTypedText()));
     const bool isNew = hasForm && form_->IsNew();
     const qsizetype position = hasForm ? form_->Position() : -1;
     const qsizetype count = hasForm ? form_->Count() : 0;

@@ -138,6 +138,18 @@ TEST(EditorWindow, EscapeReturnsToTheLoadedValue) {
     EXPECT_EQ(window.File.Ask(QStringLiteral("SELECT n FROM a WHERE name = 'k1'")), QStringLiteral("1"));
 }
 
+TEST(EditorWindow, MarkOfAChangeShowsWhileTyping) {
+    Window window(TwoRows);
+    window.Press(Qt::Key_Down);
+    window.Type(QStringLiteral("5"));
+    QApplication::processEvents();
+    EXPECT_EQ(window.Status(), QStringLiteral("Record 1 of 2 · a · modified"));
+    EXPECT_TRUE(window.Shown.isWindowModified());
+    window.Press(Qt::Key_Escape);
+    EXPECT_EQ(window.Status(), QStringLiteral("Record 1 of 2 · a"));
+    EXPECT_GE(window.Shown.minimumSizeHint().expandedTo(window.Shown.minimumSize()).width(), 250);
+}
+
 TEST(EditorWindow, ClearingAValueLeavesTheKeysOfTheTextAlone) {
     Window window(QStringLiteral("CREATE TABLE a (id INTEGER PRIMARY KEY, s TEXT);\n"
                                  "INSERT INTO a VALUES (1, 'two words');\n"));
