@@ -1,5 +1,6 @@
 #include "QtForm.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QInputMethodEvent>
@@ -16,7 +17,7 @@ namespace {
 using Names = std::vector<std::string>;
 
 class QtWidget : public testing::Test {
-protected:
+public: // what leaves a cell comes in many ways
     QtWidget() {
         form.Grid().Add({.Key = "name", .Caption = "Name", .Value = "Müller"});
         form.Grid().Add({.Key = "date", .Caption = "Datum", .Value = "3.5.2026", .CellTemplate = qgctDate});
@@ -178,6 +179,44 @@ TEST_F(QtWidget, PasswordsAreNeverCopied) {
     EXPECT_EQ(form.Edit()->text(), QStringLiteral("geheim"));
 }
 
+TEST_F(QtWidget, PasswordsAreToldToNobody) {
+    GoTo(4);
+    for (const auto query :
+         {Qt::ImSurroundingText, Qt::ImCurrentSelection, Qt::ImTextBeforeCursor, Qt::ImTextAfterCursor}) {
+        QInputMethodQueryEvent asked(query);
+        QApplication::sendEvent(form.Edit(), &asked);
+        EXPECT_EQ(asked.value(query).toString(), QString());
+        QVariant answer;
+        QMetaObject::invokeMethod(form.Edit(), "inputMethodQuery", Q_RETURN_ARG(QVariant, answer),
+                                  Q_ARG(Qt::InputMethodQuery, query), Q_ARG(QVariant, QVariant(6)));
+        EXPECT_EQ(answer.toString(), QString());
+    }
+    auto* read = QAccessible::queryAccessibleInterface(form.Edit());
+    ASSERT_TRUE(read && read->textInterface());
+    EXPECT_EQ(read->text(QAccessible::Value), QStringLiteral("******"));
+    EXPECT_FALSE(read->textInterface()->text(0, 6).contains(u'g'));
+    form.Press(Qt::Key_Up);
+    QInputMethodQueryEvent asked(Qt::ImSurroundingText);
+    QApplication::sendEvent(form.Edit(), &asked);
+    EXPECT_EQ(asked.value(Qt::ImSurroundingText).toString(), QStringLiteral("5"));
+    form.Edit()->undo();
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("5"));
+}
+
+TEST_F(QtWidget, ClickIntoSelectedTextPutsTheCaretThere) {
+    GoTo(1);
+    ASSERT_TRUE(form.Edit()->hasSelectedText());
+    EXPECT_TRUE(form.Edit()->dragEnabled());
+    const QRect caret = form.Edit()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    form.Edit()->setCursorPosition(3);
+    const QRect third = form.Edit()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    form.Edit()->selectAll();
+    ASSERT_NE(caret, third);
+    Click(form.Edit()->mapToParent(third.center()));
+    EXPECT_FALSE(form.Edit()->hasSelectedText());
+    EXPECT_EQ(form.Edit()->cursorPosition(), 3);
+}
+
 TEST_F(QtWidget, ComposedTextPassesTheSameFilter) {
     GoTo(3);
     QInputMethodEvent letters;
@@ -251,6 +290,86 @@ TEST_F(QtWidget, TabGoesThroughTheCellsAndOut) {
     EXPECT_EQ(QApplication::focusWidget(), form.Edit());
     form.Press(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier | Qt::ControlModifier);
     EXPECT_EQ(QApplication::focusWidget(), form.Before);
+}
+
+TEST_F(QtWidget, TabFollowsItsPolicyAndControlTabAlwaysLeaves) {
+    GoTo(4);
+    form.Widget->setProperty("tabPolicy", QuillgridWidget::TabWraps);
+    form.Press(Qt::Key_Tab, QStringLiteral("\t"));
+    EXPECT_EQ(form.Grid().CurrentRow(), 1);
+    form.Press(Qt::Key_Backtab, QStringLiteral("\t"), Qt::ShiftModifier);
+    EXPECT_EQ(form.Grid().CurrentRow(), 4);
+    form.Press(Qt::Key_Tab, QStringLiteral("\t"), Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), form.After);
+    form.Widget->setTabPolicy(QuillgridWidget::TabLeaves);
+    form.Widget->setFocus();
+    form.Press(Qt::Key_Up);
+    form.Type(QStringLiteral("42"));
+    form.Events.clear();
+    form.Press(Qt::Key_Tab, QStringLiteral("\t"));
+    EXPECT_EQ(QApplication::focusWidget(), form.After);
+    EXPECT_EQ(form.Events, (Names{"validate count", "change count"})) << "once";
+}
+
+TEST_F(QtWidget, WhatIsBeingComposedBelongsToItsCell) {
+    using Way = void (*)(QtWidget&);
+    const Way ways[] = {
+        [](QtWidget& test) { test.form.Press(Qt::Key_Down); },
+        [](QtWidget& test) { test.Click(test.ValueArea(3).center()); },
+        [](QtWidget& test) { test.form.Widget->commitEdit(); },
+        [](QtWidget& test) { test.form.After->setFocus(); },
+        [](QtWidget& test) { test.form.Window().close(); },
+    };
+    for (const Way way : ways) {
+        GoTo(1);
+        form.Grid().Cells().Item(1)->SetFocus();
+        form.Type(QStringLiteral("a"));
+        form.Events.clear();
+        QInputMethodEvent composing(QString::fromUtf8("ね"), {});
+        QApplication::sendEvent(form.Edit(), &composing);
+        EXPECT_EQ(form.Events, Names{}) << "nothing is taken over while composing";
+        EXPECT_EQ(form.Edit()->text(), QStringLiteral("a"));
+        way(*this);
+        EXPECT_EQ(TextOf(1), std::string("aね"));
+        EXPECT_EQ(TextOf(3), "5");
+    }
+}
+
+TEST_F(QtWidget, ClosingTheWindowSaysOnceWhyNot) {
+    form.Cancel = true;
+    GoTo(2);
+    form.Type(QStringLiteral("31.2.2026"));
+    EXPECT_FALSE(form.Window().close());
+    EXPECT_FALSE(form.Widget->shownMessage().isEmpty());
+    EXPECT_EQ(QApplication::focusWidget(), form.Edit());
+    EXPECT_TRUE(form.Window().close());
+    form.Settle();
+    EXPECT_FALSE(form.Window().isVisible());
+    EXPECT_EQ(form.Events, Names{"refused 20002 date"});
+}
+
+TEST_F(QtWidget, TellsWhenTypedTextWaitsAndWhenNoMore) {
+    GoTo(1);
+    std::vector<bool> told;
+    QObject::connect(form.Widget, &QuillgridWidget::typingChanged,
+                     [&](bool holds) { told.push_back(holds); });
+    const std::vector<void (*)(QtForm&)> ends{
+        [](QtForm& f) { f.Press(Qt::Key_Escape, QStringLiteral("\x1b")); },
+        [](QtForm& f) {
+            f.Press(Qt::Key_Backspace, QStringLiteral("\b"));
+            f.Type(QStringLiteral("Müller"));
+        },
+        [](QtForm& f) { f.Widget->commitEdit(); },
+    };
+    for (const auto end : ends) {
+        told.clear();
+        form.Type(QStringLiteral("x"));
+        form.Settle();
+        EXPECT_TRUE(form.Widget->holdsTypedText());
+        end(form);
+        form.Settle();
+        EXPECT_EQ(told, (std::vector<bool>{true, false}));
+    }
 }
 
 TEST_F(QtWidget, ClickSelectsAnotherRowAndCommitsTheFirst) {

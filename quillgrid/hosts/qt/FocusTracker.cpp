@@ -20,16 +20,31 @@ void FocusTracker::Changed(const QWidget* now) {
 void FocusTracker::Enter() {
     if (entered_) return;
     entered_ = true;
+    Watch(widget_.window());
     Entered();
 }
 
 void FocusTracker::Leave() {
     if (!entered_) return;
     entered_ = false;
+    Watch(nullptr);
     leaving_ = true;
     const QPointer<FocusTracker> alive(this);
     Left();
     if (alive) leaving_ = false;
+}
+
+void FocusTracker::Watch(QWidget* window) {
+    if (window_) window_->removeEventFilter(this);
+    window_ = window;
+    if (window_) window_->installEventFilter(this);
+}
+
+// Once hidden, a window could not say any more why a text was refused.
+bool FocusTracker::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Close || watched != window_ || MayClose()) return false;
+    event->ignore();
+    return true;
 }
 
 // A control that takes the focus back while another one is receiving it would leave both confused.

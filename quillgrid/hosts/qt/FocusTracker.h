@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
@@ -23,13 +24,19 @@ public:
 
     std::function<void()> Entered = [] {};
     std::function<void()> Left = [] {};
+    /// Asked before the window closes while the user is in the control: false keeps it open.
+    std::function<bool()> MayClose = [] { return true; };
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Watch(QWidget* window);
     void Changed(const QWidget* now);
     void Enter();
     void TakeFocus();
 
     QWidget& widget_;
+    QPointer<QWidget> window_; ///< in which the user is
     bool entered_ = false;
     bool leaving_ = false;
 };

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <limits>
+#include <utility>
 
 namespace quillgrid::qt {
 
@@ -24,6 +25,7 @@ GridLineEdit::GridLineEdit(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(
         std::numeric_limits<int>::max()); // the cell sets the limit; Qt's own would cut what it holds
     setAcceptDrops(false);                // a drop would pass the gate by
+    setDragEnabled(true);                 // Qt itself drags no masked text
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -61,15 +63,39 @@ void GridLineEdit::contextMenuEvent(QContextMenuEvent* event) {
     menu->popup(event->globalPos());
 }
 
+void GridLineEdit::mousePressEvent(QMouseEvent* event) {
+    const bool whole = event->button() == Qt::LeftButton && hasSelectedText();
+    QLineEdit::mousePressEvent(event);
+    mayDrag_ = whole && hasSelectedText() && event->modifiers() == Qt::NoModifier;
+}
+
 void GridLineEdit::mouseReleaseEvent(QMouseEvent* event) {
     QClipboard* clipboard = QGuiApplication::clipboard();
     if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
-        return QLineEdit::mouseReleaseEvent(event);
+        QLineEdit::mouseReleaseEvent(event);
+        // After a press on selected text Qt waits for a drag; when none came, the caret goes to the pointer.
+        if (std::exchange(mayDrag_, false) && !hasSelectedText())
+            setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        return;
     }
     event->accept();
     const QString text = clipboard->text(QClipboard::Selection); // before the click drops our own selection
     if (!isReadOnly() && PasteAllowed()) setCursorPosition(cursorPositionAt(event->position().toPoint()));
     TakeOrRefuse(text);
+}
+
+bool GridLineEdit::Hides(Qt::InputMethodQuery query) const {
+    constexpr Qt::InputMethodQueries texts =
+        Qt::ImSurroundingText | Qt::ImCurrentSelection | Qt::ImTextBeforeCursor | Qt::ImTextAfterCursor;
+    return echoMode() != Normal && texts.testFlag(query);
+}
+
+QVariant GridLineEdit::inputMethodQuery(Qt::InputMethodQuery query) const {
+    return Hides(query) ? QVariant() : QLineEdit::inputMethodQuery(query);
+}
+
+QVariant GridLineEdit::inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const {
+    return Hides(query) ? QVariant() : QLineEdit::inputMethodQuery(query, argument);
 }
 
 } // namespace quillgrid::qt

@@ -29,13 +29,21 @@ public:
     /// Hands the event to the line edit as it stands.
     void Compose(QInputMethodEvent* event) { QLineEdit::inputMethodEvent(event); }
 
+    /// An input method learns where a masked text stands, never what it says.
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    Q_INVOKABLE QVariant inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void TakeOrRefuse(const QString& text);
+    bool Hides(Qt::InputMethodQuery query) const;
+
+    bool mayDrag_ = false; ///< the button went down on selected text
 };
 
 } // namespace quillgrid::qt

@@ -6,6 +6,8 @@
 #include "quillgrid/hosts/qt/GridLineEdit.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -44,7 +46,11 @@ KeyRouter::KeyRouter(Quillgrid& grid, GridLineEdit& edit) : grid_(grid), edit_(e
 
 bool KeyRouter::KeyDown(const QKeyEvent& event) {
     const QPointer<KeyRouter> alive(this);
-    if (!IsModifierKey(event)) BeforeInput();
+    if (!IsModifierKey(event)) {
+        BeforeInput();
+        FinishComposing();
+        if (!alive) return true;
+    }
     const std::int32_t code = KeyCodeOf(event);
     if (code != 0 && grid_.KeyDown(code, ShiftStateOf(event))) return true;
     if (!alive) return true;
@@ -148,8 +154,18 @@ bool KeyRouter::DoubleClick(QMouseEvent* event) {
     return !alive;
 }
 
+void KeyRouter::FinishComposing() {
+    if (composed_.isEmpty()) return;
+    QGuiApplication::inputMethod()->commit();
+    if (composed_.isEmpty()) return;
+    QInputMethodEvent end; // the input method has nothing to say: what stands there counts
+    end.setCommitString(std::exchange(composed_, {}));
+    Compose(&end);
+}
+
 // The box may keep what is still being composed; what is finished is typed like any other text.
 bool KeyRouter::Compose(QInputMethodEvent* event) {
+    composed_ = edit_.isReadOnly() ? QString() : event->preeditString();
     if (event->commitString().isEmpty()) return false;
     const QPointer<KeyRouter> alive(this);
     BeforeInput();

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QString>
 
 #include <functional>
 
@@ -35,6 +36,10 @@ public:
     void KeyUp(const QKeyEvent& event);
     /// Types a text character by character.
     void TypeText(const QString& text);
+    /// What an input method is still composing is typed now: the cell is about to be taken over.
+    void FinishComposing();
+    /// The box has another text: what was composed went with the one before.
+    void ForgetComposing() { composed_.clear(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -51,6 +56,7 @@ private:
 
     Quillgrid& grid_;
     GridLineEdit& edit_;
+    QString composed_; ///< not yet typed
 };
 
 } // namespace quillgrid::qt

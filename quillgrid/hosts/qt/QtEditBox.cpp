@@ -58,6 +58,7 @@ std::size_t QtEditBox::LengthAtMost() const {
 void QtEditBox::SetText(std::string_view text) {
     edit_.setText(ToQString(text));
     edit_.setCursorPosition(0);
+    TextSet();
 }
 
 std::size_t QtEditBox::SelectionStart() const {
@@ -124,6 +125,7 @@ void QtEditBox::Hide() {
     owner_.setFocusProxy(nullptr);
     if (edit_.hasFocus()) owner_.setFocus(Qt::OtherFocusReason);
     edit_.hide();
+    TextSet();
 }
 
 void QtEditBox::Focus() {

@@ -34,6 +34,8 @@ public:
     void AmbientChanged();
     /// Called for every wish for the focus; the host decides when it is granted.
     std::function<void()> RequestFocus = [] {};
+    /// The control put a text into the box, or hid it.
+    std::function<void()> TextSet = [] {};
 
 private:
     void Dress();

@@ -72,7 +72,19 @@ void QuillgridWidget::setMessageDuration(int milliseconds) {
 }
 
 bool QuillgridWidget::commitEdit() {
-    return host_->Grid.CommitEdit();
+    return host_->Commit();
+}
+
+bool QuillgridWidget::holdsTypedText() const {
+    return host_->Grid.HoldsTypedText();
+}
+
+void QuillgridWidget::setTabPolicy(TabPolicy policy) {
+    using Control = quillgrid::TabPolicy;
+    tabPolicy_ = policy;
+    host_->Grid.SetTabPolicy(policy == TabWraps    ? Control::Wrap
+                             : policy == TabLeaves ? Control::Leave
+                                                   : Control::LeaveAtEnds);
 }
 
 QSize QuillgridWidget::sizeHint() const {
@@ -101,6 +113,9 @@ void QuillgridWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     event->accept();
     host_->Refusals.Dismiss();
+    const QPointer<QuillgridWidget> self(this);
+    host_->Keys.FinishComposing();
+    if (!self) return;
     host_->Grid.MouseDown(FromQPoint(event->position().toPoint()));
 }
 
@@ -151,7 +166,9 @@ void QuillgridWidget::wheelEvent(QWheelEvent* event) {
         host_->Wheel.Rows(event->angleDelta().y(), std::max(1, QApplication::wheelScrollLines()));
     if (rows == 0) return;
     host_->Refusals.Dismiss();
-    host_->Grid.MouseWheel(rows);
+    const QPointer<QuillgridWidget> self(this);
+    host_->Keys.FinishComposing();
+    if (self) host_->Grid.MouseWheel(rows);
 }
 
 // Reached while the edit box is hidden; keys that the box leaves over have been seen already.
@@ -180,6 +197,7 @@ bool QuillgridWidget::event(QEvent* event) {
         if (KeyCodeOf(*key) == KeyTab && host_->Keys.KeyDown(*key))
             return true; // QWidget would move the focus
     }
+    if (event->type() == QEvent::WindowDeactivate && host_) host_->LetGo();
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::ScreenChangeInternal && host_) host_->ScreenChanged();
     return taken;

@@ -21,6 +21,7 @@ class WidgetHost;
 /// while Qt hides or resizes it only with deleteLater, as Qt looks at it afterwards.
 class QuillgridWidget : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(TabPolicy tabPolicy READ tabPolicy WRITE setTabPolicy)
 
 public:
     /// Says why typed text was refused, in the user's words; an empty answer falls back on the control's own.
@@ -29,6 +30,12 @@ public:
     /// A form designer shows the control in design mode: it keeps its sample cells, edits nothing and shows
     /// every change of a property at once.
     enum Mode { UserMode, DesignMode };
+
+    /// Where Tab and Shift+Tab lead: from cell to cell and, at the ends, to the other controls of the window;
+    /// from the last cell to the first, as Enter does under AllowWrap; or to the other controls at once.
+    /// Ctrl+Tab always leaves.
+    enum TabPolicy { TabLeavesAtEnds, TabWraps, TabLeaves };
+    Q_ENUM(TabPolicy)
 
     /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own
     /// `Language`.
@@ -56,6 +63,11 @@ public:
     /// Takes over what is being typed; false when a handler keeps the user in the cell. Call it before
     /// saving.
     bool commitEdit();
+    /// Whether the user has typed something that its cell has not taken over yet.
+    bool holdsTypedText() const;
+
+    TabPolicy tabPolicy() const { return tabPolicy_; }
+    void setTabPolicy(TabPolicy policy);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -67,6 +79,8 @@ Q_SIGNALS:
     void validateCell(quillgrid::Cell* cell, bool* cancel);
     void selChange(quillgrid::Cell* cell);
     void change(quillgrid::Cell* cell);
+    /// The user began to type, or what was typed was taken over or back.
+    void typingChanged(bool holdsTypedText);
     void beep();
     /// The user moved past the first or the last cell while AllowWrap is false.
     void leaveFocus(quillgrid::Cell* cell);
@@ -102,6 +116,7 @@ private:
     friend class WidgetHost;
 
     std::unique_ptr<WidgetHost> host_;
+    TabPolicy tabPolicy_ = TabLeavesAtEnds;
 };
 
 } // namespace quillgrid::qt

@@ -43,6 +43,8 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
 
 // A late focus or text change of a child must find nobody to tell.
 WidgetHost::~WidgetHost() {
+    edit_->disconnect();
+    Editor.TextSet = [] {};
     Focus.disconnect();
     Focus.Left = [] {};
     Focus.Entered = [] {};
@@ -68,7 +70,12 @@ void WidgetHost::ConnectChildren() {
     Window.IsEntered = [this] { return Focus.IsEntered(); };
     Window.RequestFocus = Editor.RequestFocus = [this] { Focus.Request(); };
     Focus.Entered = [this] { Grid.FocusGained(); };
-    Focus.Left = [this] { Grid.FocusLost(); };
+    Focus.Left = [this] {
+        const QPointer<QuillgridWidget> alive(&widget_);
+        Keys.FinishComposing();
+        if (alive) Grid.FocusLost();
+    };
+    Focus.MayClose = [this] { return Commit(); };
     Keys.BeforeInput = [this] { Refusals.Dismiss(); };
     Keys.LeaveControl = [this](bool next) { widget_.focusNextPrevChild(next); };
     edit_->PasteAllowed = [this] { return Grid.PasteAllowed(); };
@@ -77,10 +84,35 @@ void WidgetHost::ConnectChildren() {
         Window.Beep();
         Q_EMIT widget_.beep();
     };
+    Editor.TextSet = [this] {
+        Keys.ForgetComposing();
+        TextChanged();
+    };
+    QObject::connect(edit_.get(), &QLineEdit::textChanged, edit_.get(), [this] { TextChanged(); });
     QObject::connect(bar_.get(), &QScrollBar::valueChanged, bar_.get(), [this](int value) {
+        const QPointer<QuillgridWidget> alive(&widget_);
         Refusals.Dismiss();
-        Grid.ScrollTo(value);
+        Keys.FinishComposing();
+        if (alive) Grid.ScrollTo(value);
     });
+}
+
+bool WidgetHost::Commit() {
+    const QPointer<QuillgridWidget> alive(&widget_);
+    Keys.FinishComposing();
+    return !alive || Grid.CommitEdit();
+}
+
+// The control may be in the midst of its work: what listens hears of it afterwards.
+void WidgetHost::TextChanged() {
+    if (Grid.HoldsTypedText() == toldOfTyping_) return;
+    QMetaObject::invokeMethod(
+        &widget_, [this] { TellOfTyping(); }, Qt::QueuedConnection);
+}
+
+void WidgetHost::TellOfTyping() {
+    const bool holds = Grid.HoldsTypedText();
+    if (std::exchange(toldOfTyping_, holds) != holds) Q_EMIT widget_.typingChanged(holds);
 }
 
 void WidgetHost::ConnectRefusals() {
@@ -133,6 +165,8 @@ void WidgetHost::PressAccessKey(int shortcut) {
     Refusals.Dismiss();
     if (!Focus.IsEntered()) widget_.setFocus(Qt::ShortcutFocusReason);
     const QPointer<QuillgridWidget> alive(&widget_);
+    Keys.FinishComposing();
+    if (!alive) return;
     if (Grid.AccessKeyPress(key->second) && alive) Focus.Request();
 }
 

@@ -39,6 +39,10 @@ public:
     void LookChanged();
     /// The shortcut of an access key came.
     void PressAccessKey(int shortcut);
+    /// Takes over what is being typed or composed; false when a handler keeps the user in the cell.
+    bool Commit();
+    /// Nothing is held down any more; the release may go elsewhere.
+    void LetGo() { Grid.MouseUp({-1, -1}); }
     /// Texts are measured anew: another screen may have another density.
     void ScreenChanged();
     /// Paints the control over its own background.
@@ -51,11 +55,14 @@ private:
     void ConnectEvents();
     void GrabAccessKeys(const std::u32string& keys);
     void ConnectCaptionBar();
+    void TextChanged();
+    void TellOfTyping();
     void FollowFont(const Font& before);
     void FollowCaptionFont(const Font& before);
 
     QuillgridWidget& widget_;
     bool followingFont_ = false;
+    bool toldOfTyping_ = false;
     std::map<int, char32_t> accessKeys_; ///< by the number of their shortcut
     PreparedTexts texts_;
 
