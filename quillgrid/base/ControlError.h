@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -7,7 +9,7 @@
 namespace quillgrid {
 
 /// The one exception that published members throw.
-class ControlError : public std::runtime_error {
+class QUILLGRID_EXPORT ControlError : public std::runtime_error {
 public:
     static constexpr std::uint32_t ObjectErrorBase = 0x80040000U;
     /// Ends every source text: "Cells.Add Method.Quillgrid".

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <compare>
 #include <cstdint>
 #include <optional>
@@ -10,7 +12,7 @@ namespace quillgrid {
 
 /// Money: a 64-bit fixed-point number with four decimals, -922337203685477.5808 to 922337203685477.5807.
 /// Every conversion rounds half to even at the fourth decimal; a result beyond the range is no value.
-class Currency {
+class QUILLGRID_EXPORT Currency {
 public:
     static constexpr std::int64_t Scale = 10'000;
 

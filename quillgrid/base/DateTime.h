@@ -3,6 +3,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 
 #include <compare>
 #include <cstdint>
@@ -62,35 +63,37 @@ constexpr std::optional<std::int32_t> DayFromDate(std::int32_t year, std::int32_
 /// The day number of a date whose parts may lie outside their ranges: month 13 is January of the next year,
 /// day 0 the last day of the previous month. Nothing when the result leaves years 100 to 9999 or when a part
 /// lies beyond 10^11 either way.
-std::optional<std::int32_t> DayFromParts(std::int64_t year, std::int64_t month, std::int64_t day);
+QUILLGRID_EXPORT std::optional<std::int32_t> DayFromParts(std::int64_t year, std::int64_t month,
+                                                          std::int64_t day);
 /// The parts of a valid day number.
-CivilDate PartsFromDay(std::int32_t day);
+QUILLGRID_EXPORT CivilDate PartsFromDay(std::int32_t day);
 
-std::optional<std::int32_t> AddDays(std::int32_t day, std::int64_t count);
-std::optional<std::int32_t> AddWeeks(std::int32_t day, std::int64_t count);
+QUILLGRID_EXPORT std::optional<std::int32_t> AddDays(std::int32_t day, std::int64_t count);
+QUILLGRID_EXPORT std::optional<std::int32_t> AddWeeks(std::int32_t day, std::int64_t count);
 /// Months and years keep to the last day of a shorter month: 31 January plus one month is 28 or 29 February.
-std::optional<std::int32_t> AddMonths(std::int32_t day, std::int64_t count);
-std::optional<std::int32_t> AddYears(std::int32_t day, std::int64_t count);
+QUILLGRID_EXPORT std::optional<std::int32_t> AddMonths(std::int32_t day, std::int64_t count);
+QUILLGRID_EXPORT std::optional<std::int32_t> AddYears(std::int32_t day, std::int64_t count);
 
 /// 1 to 7, where 1 is `first`; `qgdwUseSystem` and values outside the list count as Sunday.
-int Weekday(std::int32_t day, DayOfWeekConstants first = qgdwSunday);
+QUILLGRID_EXPORT int Weekday(std::int32_t day, DayOfWeekConstants first = qgdwSunday);
 /// 1 to 366.
-int DayOfYear(std::int32_t day);
+QUILLGRID_EXPORT int DayOfYear(std::int32_t day);
 /// 1 to 4.
-int Quarter(std::int32_t day);
+QUILLGRID_EXPORT int Quarter(std::int32_t day);
 /// The week number 1 to 54 of a day: week 1 is the one with 1 January, the first with four days in the year,
 /// or the first full week. A day before week 1 belongs to the last week of the year before; under the
 /// four-days rule the last days of December may belong to week 1 of the next year (ISO 8601 with Monday).
 /// `qgdwUseSystem` counts as Sunday, `qgfwUseSystem` as the week with 1 January.
-int WeekOfYear(std::int32_t day, DayOfWeekConstants firstDay, FirstWeekOfYearConstants firstWeek);
+QUILLGRID_EXPORT int WeekOfYear(std::int32_t day, DayOfWeekConstants firstDay,
+                                FirstWeekOfYearConstants firstWeek);
 
 /// Seconds since midnight, or nothing when a part is outside 0..23, 0..59, 0..59.
-std::optional<std::int32_t> SecondsFromParts(int hour, int minute, int second);
+QUILLGRID_EXPORT std::optional<std::int32_t> SecondsFromParts(int hour, int minute, int second);
 
 /// Days since 30 December 1899 with the time as the fraction's absolute value (automation dates: -1.25 is
 /// 29 December 1899, 6:00).
-double ToSerial(DateTime value);
+QUILLGRID_EXPORT double ToSerial(DateTime value);
 /// The reverse, rounded to the nearest second; nothing for NaN and outside years 100 to 9999.
-std::optional<DateTime> FromSerial(double serial);
+QUILLGRID_EXPORT std::optional<DateTime> FromSerial(double serial);
 
 } // namespace quillgrid

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <functional>
@@ -10,7 +12,7 @@
 namespace quillgrid {
 
 /// Ends a subscription when it goes out of scope. Outliving the event is harmless.
-class Connection {
+class QUILLGRID_EXPORT Connection {
 public:
     Connection() = default;
     explicit Connection(std::function<void()> disconnect) : disconnect_(std::move(disconnect)) {}

@@ -2,6 +2,7 @@
 
 #include "quillgrid/base/Currency.h"
 #include "quillgrid/base/DateTime.h"
+#include "quillgrid/base/Export.h"
 
 #include <any>
 #include <concepts>
@@ -24,7 +25,7 @@ struct NullValue {
 using ObjectReference = std::shared_ptr<std::any>;
 
 /// The value of a cell, a property or a field: one of the types below. Text is UTF-8.
-class Variant {
+class QUILLGRID_EXPORT Variant {
 public:
     enum class Type { Empty, Null, Integer, Long, Currency, Double, Date, Boolean, Text, Object };
 
@@ -80,6 +81,6 @@ private:
 
 /// Equality "as text, ignoring case": 1, 1.0, Currency 1 and "1" are equal, Null and empty equal "", an
 /// object equals nothing. No allocation when both are text or both are the same number type.
-bool EqualAsText(const Variant& left, const Variant& right);
+QUILLGRID_EXPORT bool EqualAsText(const Variant& left, const Variant& right);
 
 } // namespace quillgrid

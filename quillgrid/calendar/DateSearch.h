@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -9,7 +11,7 @@ namespace quillgrid {
 enum class DateUnit : std::uint8_t { Day, Week };
 
 /// A bounded search for a day that is not blocked.
-class DateSearch {
+class QUILLGRID_EXPORT DateSearch {
 public:
     using IsBlocked = std::function<bool(std::int32_t)>;
     struct Range {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/DateTime.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/HolidayRule.h"
 #include "quillgrid/calendar/RuleLink.h"
 
@@ -11,7 +12,7 @@ namespace quillgrid {
 
 /// A rule that finds its date in any year. `Month`, `Day` and `Year` show the date of the last resolution; a
 /// change shows in the calendar once another year or month is examined, or the calendar resolves anew.
-class Holiday {
+class QUILLGRID_EXPORT Holiday {
 public:
     explicit Holiday(RuleLinkReference link = std::make_shared<RuleLink>());
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/Holidays.h"
 #include "quillgrid/calendar/MonthTable.h"
 
@@ -11,7 +12,7 @@ namespace quillgrid {
 /// A calendar's rules, resolved for one year at a time and condensed for one month at a time. Changed rules
 /// and user dates show only when the next year is resolved or the next month built: whoever counts days must
 /// go through the same years and months, or ask `IsUniform` whether that would make no difference.
-class HolidayBook final : private RuleSettler {
+class QUILLGRID_EXPORT HolidayBook final : private RuleSettler {
 public:
     HolidayBook() = default;
     ~HolidayBook() override;

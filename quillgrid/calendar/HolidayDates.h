@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/DateTime.h"
+#include "quillgrid/base/Export.h"
 
 #include <cstdint>
 
@@ -72,8 +73,8 @@ constexpr std::int32_t NearestValidDay(std::int32_t day) {
 }
 
 /// Easter Sunday by Gauss's rule in its first form, which is right for the years 1583 to 4199.
-std::int32_t EasterDay(std::int32_t year);
+QUILLGRID_EXPORT std::int32_t EasterDay(std::int32_t year);
 /// The German Day of Repentance: the Wednesday between 16 and 22 November.
-std::int32_t BusstagDay(std::int32_t year);
+QUILLGRID_EXPORT std::int32_t BusstagDay(std::int32_t year);
 
 } // namespace quillgrid

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/HolidayRule.h"
 #include "quillgrid/calendar/YearBits.h"
 
@@ -8,7 +9,7 @@
 namespace quillgrid {
 
 /// What of a list of rules decides which days are holidays. Two lists with equal marks agree on every day.
-class HolidayMarks {
+class QUILLGRID_EXPORT HolidayMarks {
 public:
     HolidayMarks() = default;
     HolidayMarks(const std::vector<HolidayRule>& rules, const UserDays& user);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 
 #include <cstdint>
 #include <string_view>
@@ -25,6 +26,6 @@ struct HolidayPreset {
 };
 
 /// Nothing for qgahdNone; every number outside the list gives the international preset.
-const HolidayPreset* FindPreset(AutoHolidayConstants preset);
+QUILLGRID_EXPORT const HolidayPreset* FindPreset(AutoHolidayConstants preset);
 
 } // namespace quillgrid

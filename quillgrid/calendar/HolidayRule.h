@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/HolidayDates.h"
 
 #include <array>
@@ -31,7 +32,7 @@ struct MonthDay {
 using UserDays = std::array<std::int32_t, 3>;
 
 /// What the rules of one year refer to.
-struct YearAnchors {
+struct QUILLGRID_EXPORT YearAnchors {
     std::int32_t Year = FirstYear;
     std::int32_t Easter = 0;
     std::int32_t Busstag = 0;
@@ -54,6 +55,6 @@ constexpr bool IsFixedKind(HolidayTypeConstants type) {
 
 /// Where a rule falls in a year; 0/0 when its date would lie outside the calendar. Only month and day count,
 /// though the date itself may lie in another year.
-MonthDay ResolveRule(const HolidayRule& rule, const YearAnchors& anchors);
+QUILLGRID_EXPORT MonthDay ResolveRule(const HolidayRule& rule, const YearAnchors& anchors);
 
 } // namespace quillgrid

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/calendar/Holiday.h"
 #include "quillgrid/cells/ItemKey.h"
@@ -22,7 +23,7 @@ struct HolidayArguments {
 };
 
 /// The rules of a calendar in the order in which they were added; later rules win a shared day's name.
-class Holidays {
+class QUILLGRID_EXPORT Holidays {
 public:
     using Pointer = std::shared_ptr<Holiday>;
     using Iterator = PositionIterator<Holidays, Holiday>;

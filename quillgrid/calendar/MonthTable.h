@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/RuleSnapshot.h"
 
 #include <array>
@@ -11,7 +12,7 @@ namespace quillgrid {
 
 /// The holidays of one month: which days are marked and what every day is called. Built from a snapshot, it
 /// is filled only when someone looks.
-class MonthTable {
+class QUILLGRID_EXPORT MonthTable {
 public:
     std::int32_t Year() const { return place_.Year; }
     std::int32_t Month() const { return month_ != 0 ? month_ : DateOf(place_).Month; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <cstdint>
 #include <memory>
 
@@ -14,7 +16,7 @@ public:
 
 /// What a collection, its rules and the calendars that resolve them share. Most resolutions are overtaken by
 /// the next before anyone reads a rule, so their dates are written only when a rule is read or changed.
-struct RuleLink {
+struct QUILLGRID_EXPORT RuleLink {
     std::uint64_t Revision = 0;    ///< counts every change of a rule or of the collection
     std::uint64_t Resolutions = 0; ///< counts every resolution, whoever made it
     RuleSettler* Pending = nullptr;

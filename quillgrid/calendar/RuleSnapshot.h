@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/HolidayMarks.h"
 #include "quillgrid/calendar/WorkYears.h"
 
@@ -15,7 +16,7 @@ class Holidays;
 
 /// All that is worked out from one set of marks and never changes with them: kept for as long as any rules
 /// have these marks.
-class KnownMarks {
+class QUILLGRID_EXPORT KnownMarks {
 public:
     explicit KnownMarks(HolidayMarks marks) : marks_(std::move(marks)) {}
     KnownMarks(const KnownMarks&) = delete;
@@ -31,7 +32,7 @@ private:
 
 /// The rules and user dates as they stood at one moment. Resolutions refer to a snapshot, so what they give
 /// can be worked out later, when the rules themselves have long been changed.
-struct RuleSnapshot {
+struct QUILLGRID_EXPORT RuleSnapshot {
     std::vector<HolidayRule> Rules;
     std::vector<std::string> Names; ///< of the same positions
     UserDays User{};

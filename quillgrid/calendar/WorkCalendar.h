@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/CalendarOwner.h"
 #include "quillgrid/calendar/CalendarSettings.h"
 #include "quillgrid/calendar/DateSearch.h"
@@ -21,7 +22,7 @@ namespace quillgrid {
 ///
 /// Rules are resolved for one year and condensed for one month at a time. A change of a rule or a user date
 /// shows when another year or month is examined, after `ResolveHolidays`, or after the next reload.
-class WorkCalendar {
+class QUILLGRID_EXPORT WorkCalendar {
 public:
     /// `owner` may be null; it is not told of anything that happens here.
     explicit WorkCalendar(DateTime currentDate = {}, CalendarOwner* owner = nullptr);

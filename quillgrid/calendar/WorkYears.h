@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/calendar/HolidayMarks.h"
 
 #include <cstdint>
@@ -24,7 +25,7 @@ struct Weekend {
 
 /// Work days counted and found by year: a year is worked out when it is first touched and kept as one bit a
 /// day. Stretches of known years carry running counts, so the length of a span does not matter.
-class WorkYears {
+class QUILLGRID_EXPORT WorkYears {
 public:
     /// `marks` must outlive this.
     WorkYears(const HolidayMarks& marks, Weekend weekend);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -38,7 +40,7 @@ constexpr std::int32_t CountBits(std::uint64_t word) {
 }
 
 /// One bit for each day of a year, 1 January first.
-struct YearBits {
+struct QUILLGRID_EXPORT YearBits {
     static constexpr std::size_t WordCount = 6;
     std::array<std::uint64_t, WordCount> Words{};
 
@@ -61,6 +63,6 @@ constexpr int PlaceOfBit(std::uint64_t word, int before) {
 }
 
 /// All days of a year whose place in the week is `weekday` (0 to 6), when 1 January's is `newYear`.
-YearBits EverySeventhDay(int newYear, int weekday);
+QUILLGRID_EXPORT YearBits EverySeventhDay(int newYear, int weekday);
 
 } // namespace quillgrid

@@ -3,6 +3,7 @@
 #include "quillgrid/base/Colour.h"
 #include "quillgrid/base/Constants.h"
 #include "quillgrid/base/Currency.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/cells/CellExtras.h"
 #include "quillgrid/cells/CellState.h"
@@ -48,7 +49,7 @@ struct LayoutArguments {
 /// One labelled input row: caption, typed value, the rules that check the value, its look and the access
 /// rights. Made by `Cells::Add`. Unless said otherwise a property is only stored and the control sees it when
 /// it next paints or refreshes; arguments are not validated.
-class Cell : public std::enable_shared_from_this<Cell> {
+class QUILLGRID_EXPORT Cell : public std::enable_shared_from_this<Cell> {
 public:
     explicit Cell(OwnerLinkReference link = nullptr) : link_(std::move(link)) {}
     Cell(const Cell&) = delete;

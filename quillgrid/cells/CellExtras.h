@@ -2,6 +2,7 @@
 
 #include "quillgrid/base/Colour.h"
 #include "quillgrid/base/Currency.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/cells/Listitems.h"
 
@@ -22,7 +23,7 @@ struct DataBinding {
 
 /// The fields that plain text cells leave at their defaults: a cell allocates them with the first that
 /// differs.
-struct CellExtras {
+struct QUILLGRID_EXPORT CellExtras {
     Variant Min = Variant::Null();
     Variant Max = Variant::Null();
     Variant Default = Variant::Null();

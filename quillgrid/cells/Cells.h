@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/cells/Cell.h"
@@ -29,7 +30,7 @@ struct CellArguments {
 };
 
 /// The cells of a control in the order in which they were added.
-class Cells {
+class QUILLGRID_EXPORT Cells {
 public:
     using Pointer = std::shared_ptr<Cell>;
     using Iterator = PositionIterator<Cells, Cell>;

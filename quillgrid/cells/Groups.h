@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/cells/Group.h"
 #include "quillgrid/cells/ItemKey.h"
@@ -22,7 +23,7 @@ struct GroupArguments {
 };
 
 /// The groups of a control.
-class Groups {
+class QUILLGRID_EXPORT Groups {
 public:
     using Pointer = std::shared_ptr<Group>;
     using Iterator = PositionIterator<Groups, Group>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/platform/ImageSource.h"
 
 #include <cstdint>
@@ -11,7 +12,7 @@ namespace quillgrid {
 
 /// The control's image list as the host sees it: hands everything on to the host's own list and keeps
 /// nothing. Without a list, reads give 0, "" or nothing and writes do nothing.
-class ImageList {
+class QUILLGRID_EXPORT ImageList {
 public:
     explicit ImageList(ImageSource* source = nullptr) : source_(source) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/base/Variant.h"
 
@@ -13,7 +14,7 @@ namespace quillgrid {
 /// How a member of a collection is asked for: by a position (1-based) or by a key. Every text is a key,
 /// numeric texts too; a variant holding a number is a position, rounded half to even. Lives as long as one
 /// call.
-class ItemKey {
+class QUILLGRID_EXPORT ItemKey {
 public:
     template <std::integral Number>
     requires(!std::same_as<Number, bool>) ItemKey(Number position)

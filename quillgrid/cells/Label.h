@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Rect.h"
 
 #include <array>
@@ -13,7 +14,7 @@
 namespace quillgrid {
 
 /// The caption of a cell: what was given, what is painted, the access key, and where layout put it.
-class Label {
+class QUILLGRID_EXPORT Label {
 public:
     Label() = default;
     Label(Label&&) = default;

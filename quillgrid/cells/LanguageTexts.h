@@ -2,6 +2,7 @@
 
 #include "quillgrid/base/Constants.h"
 #include "quillgrid/base/ControlError.h"
+#include "quillgrid/base/Export.h"
 
 #include <cstdint>
 #include <string>
@@ -10,16 +11,16 @@ namespace quillgrid {
 
 /// First number of a language's block of the string table: 10000 for German, the default and unknown
 /// languages, 11000 English, 12000 French, 13000 Italian, 14000 Spanish.
-std::int32_t LanguageBlock(LanguageConstants language);
+QUILLGRID_EXPORT std::int32_t LanguageBlock(LanguageConstants language);
 
 /// The text of a language under a number relative to its block; else the text stored under the bare number;
 /// else the number in decimal.
-std::string LocalText(LanguageConstants language, std::int32_t number);
+QUILLGRID_EXPORT std::string LocalText(LanguageConstants language, std::int32_t number);
 
 /// The message of an error code, with built-in texts where the table has none.
-std::string ErrorText(std::int32_t code);
+QUILLGRID_EXPORT std::string ErrorText(std::int32_t code);
 
 /// The error that published members throw: `throw RaiseControlError(20092, "Cells.Item Property Get")`.
-ControlError RaiseControlError(std::int32_t code, const std::string& source);
+QUILLGRID_EXPORT ControlError RaiseControlError(std::int32_t code, const std::string& source);
 
 } // namespace quillgrid

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 
 #include <cstdint>
@@ -9,7 +10,7 @@
 namespace quillgrid {
 
 /// One entry of a list-style cell.
-class Listitem {
+class QUILLGRID_EXPORT Listitem {
 public:
     Listitem() = default;
 

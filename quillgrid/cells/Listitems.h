@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/cells/ItemKey.h"
 #include "quillgrid/cells/Listitem.h"
 #include "quillgrid/cells/PositionIterator.h"
@@ -20,7 +21,7 @@ struct ListitemArguments {
 };
 
 /// The entries of a list-style cell, in order and without keys.
-class Listitems {
+class QUILLGRID_EXPORT Listitems {
 public:
     using Pointer = std::shared_ptr<quillgrid::Listitem>;
     using Iterator = PositionIterator<Listitems, quillgrid::Listitem>;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Event.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/cells/ItemKey.h"
 #include "quillgrid/cells/PositionIterator.h"
@@ -23,7 +24,7 @@ struct PropertyArguments {
 /// A property sheet: an ordered list of properties reached by position or by name. A control listens to the
 /// item that was fetched last through `Item`, so fetching and then reading or writing `Value` reaches the
 /// property itself. Walking the sheet in a loop fetches nothing.
-class Properties : public std::enable_shared_from_this<Properties> {
+class QUILLGRID_EXPORT Properties : public std::enable_shared_from_this<Properties> {
 public:
     using Pointer = std::shared_ptr<Property>;
     using Iterator = PositionIterator<Properties, Property>;

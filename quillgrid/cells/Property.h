@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Event.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 
 #include <cstdint>
@@ -14,7 +15,7 @@ namespace quillgrid {
 /// One line of a property sheet. It keeps no copy of the property that it stands for: whoever listens to its
 /// events sets that property when `Value` is written and supplies it when `Value` is read. Made by
 /// `Properties::Add`.
-class Property : public std::enable_shared_from_this<Property> {
+class QUILLGRID_EXPORT Property : public std::enable_shared_from_this<Property> {
 public:
     /// `Value` is being written: the key and the new value, which a listener may change. Throwing keeps the
     /// old one.

@@ -1,6 +1,8 @@
 // The euro and the currencies that it replaced for good.
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -27,8 +29,8 @@ struct EuroCurrency {
 };
 
 /// The euro first, then by code.
-std::span<const EuroCurrency> EuroTable();
+QUILLGRID_EXPORT std::span<const EuroCurrency> EuroTable();
 /// In any case; null for an unknown code.
-const EuroCurrency* FindEuroCurrency(std::string_view code);
+QUILLGRID_EXPORT const EuroCurrency* FindEuroCurrency(std::string_view code);
 
 } // namespace quillgrid

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/euro/EuroTable.h"
 #include "quillgrid/platform/CurrencyConverter.h"
 
@@ -10,7 +11,7 @@ namespace quillgrid {
 
 /// The euro and the currencies that it replaced, at the rates fixed by law. What a control converts with
 /// unless its host brings another converter.
-class QGEuro : public CurrencyConverter {
+class QUILLGRID_EXPORT QGEuro : public CurrencyConverter {
 public:
     std::string Symbol(std::string_view currencyCode) const override;
     /// Numbers beyond the five speak German.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/ControlError.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/calendar/Holidays.h"
@@ -27,7 +28,7 @@ namespace quillgrid {
 class GridCore;
 
 /// The control: a vertical list of labelled cells, one of them edited at a time.
-class Quillgrid : public PublishedEvents {
+class QUILLGRID_EXPORT Quillgrid : public PublishedEvents {
 public:
     /// Creates what the control owns. The ports must outlive it. One of InitProperties and ReadProperties
     /// follows; nothing is laid out or painted before.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/locale/Locale.h"
 
@@ -17,6 +18,6 @@ namespace quillgrid {
 /// pattern gives the value's general form. Null and empty give "" (or the fourth section); a text that is no
 /// number (no date) passes unchanged through a number (date) format. Numbers are rounded half away from zero
 /// on their shortest decimal digits; what rounds to zero shows no minus.
-std::string Format(const Variant& value, std::string_view pattern, const Locale& locale);
+QUILLGRID_EXPORT std::string Format(const Variant& value, std::string_view pattern, const Locale& locale);
 
 } // namespace quillgrid

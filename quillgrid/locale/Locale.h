@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 
 #include <array>
 #include <cstdint>
@@ -17,7 +18,7 @@ enum class CurrencyPlace : std::uint8_t { Before, BeforeWithBlank, After, AfterW
 
 /// How the user's part of the world writes numbers, money, dates and times: one plain value. Negative numbers
 /// and money always carry their minus in front, so that what is shown can be typed again.
-struct Locale {
+struct QUILLGRID_EXPORT Locale {
     std::string Name; ///< "de-DE", "en-US" ...
 
     std::string DecimalSeparator;
@@ -57,8 +58,8 @@ struct Locale {
 /// The built-in locale for a name: "de-DE", "de-AT", "de-CH", "en-US", "en-GB", "fr-FR", "it-IT", "es-ES".
 /// Case and "_" for "-" do not matter; another country of a known language gives the language's first
 /// ("fr-CA" gives fr-FR), anything else the default, de-DE. Never fails.
-const Locale& BuiltInLocale(std::string_view name);
+QUILLGRID_EXPORT const Locale& BuiltInLocale(std::string_view name);
 /// Whether `BuiltInLocale` has exactly this language and country.
-bool HasBuiltInLocale(std::string_view name);
+QUILLGRID_EXPORT bool HasBuiltInLocale(std::string_view name);
 
 } // namespace quillgrid

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Event.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/pads/CalculatorLayout.h"
@@ -17,7 +18,7 @@ namespace quillgrid {
 
 /// Everything of the calculator pad but its window and its drawing: properties, keyboard and mouse, and the
 /// key that is drawn pressed. After each call the pad draws what has changed.
-class CalculatorCore {
+class QUILLGRID_EXPORT CalculatorCore {
 public:
     /// A persisted property was set: its key in the property bag.
     quillgrid::Event<std::string_view> PropertyChanged;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/pads/CalculatorNumber.h"
 
 #include <string>
@@ -7,7 +8,7 @@
 namespace quillgrid {
 
 /// What has been typed into the calculator.
-struct CalculatorEntries {
+struct QUILLGRID_EXPORT CalculatorEntries {
     std::string First;
     std::string Second;
     char Operator = 0; ///< + - * / waiting for its second operand; 0 for none

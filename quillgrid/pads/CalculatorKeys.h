@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <cstdint>
 #include <string_view>
 
@@ -30,12 +32,12 @@ inline constexpr std::int32_t CalculatorKeyCount = 24;
 inline constexpr std::int32_t FirstFormulaKey = 21;
 
 /// The key of a number 1..24; one without a place for other numbers (and for 20, which is kept free).
-const CalculatorKey& CalculatorKeyAt(std::int32_t number);
+QUILLGRID_EXPORT const CalculatorKey& CalculatorKeyAt(std::int32_t number);
 /// The number of the key with an action, 0 when there is none.
-std::int32_t CalculatorKeyOf(std::int32_t action);
+QUILLGRID_EXPORT std::int32_t CalculatorKeyOf(std::int32_t action);
 /// What a typed character does, or None: the separators type the point, Escape clears, Enter and Space are
 /// "=".
-std::int32_t ActionOfCharacter(std::int32_t character, std::string_view separators);
+QUILLGRID_EXPORT std::int32_t ActionOfCharacter(std::int32_t character, std::string_view separators);
 
 constexpr bool IsFormulaAction(std::int32_t code) {
     return code >= action::FirstFormula && code <= action::LastFormula;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/pads/CalculatorKeys.h"
 #include "quillgrid/platform/Font.h"
@@ -19,7 +20,7 @@ struct CalculatorMeasures {
 };
 
 /// Where everything of the calculator stands, in logical pixels.
-struct CalculatorLayout {
+struct QUILLGRID_EXPORT CalculatorLayout {
     /// A taller line would push the keys out of the pad.
     static constexpr std::int32_t TallestText = 20;
 
@@ -44,10 +45,10 @@ struct CalculatorLayout {
     friend bool operator==(const CalculatorLayout&, const CalculatorLayout&) = default;
 };
 
-CalculatorLayout LayOutCalculator(const CalculatorMeasures& measures);
+QUILLGRID_EXPORT CalculatorLayout LayOutCalculator(const CalculatorMeasures& measures);
 
 /// The font of the display: 10 points and bold, smaller where that would be taller than the display allows.
-Font CalculatorFont(const TextMetrics& metrics, const std::string& family);
-CalculatorMeasures MeasureCalculator(const TextMetrics& metrics, const Font& font);
+QUILLGRID_EXPORT Font CalculatorFont(const TextMetrics& metrics, const std::string& family);
+QUILLGRID_EXPORT CalculatorMeasures MeasureCalculator(const TextMetrics& metrics, const Font& font);
 
 } // namespace quillgrid

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Event.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/pads/CalculatorEntries.h"
 #include "quillgrid/pads/CalculatorKeys.h"
 #include "quillgrid/pads/CalculatorSettings.h"
@@ -15,7 +16,7 @@ namespace quillgrid {
 /// A desk calculator without a face: keys in, a display and events out. Computes from left to right without
 /// precedence. A key that is refused or fails (a division by zero, a number out of range) leaves everything
 /// as it was.
-class CalculatorMachine {
+class QUILLGRID_EXPORT CalculatorMachine {
 public:
     static constexpr std::size_t LongestEntry = 15;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Currency.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/locale/Locale.h"
 
@@ -12,7 +13,7 @@
 namespace quillgrid {
 
 /// A number as the calculator holds it: money (exact, four decimals, halves to even) or double precision.
-class CalculatorNumber {
+class QUILLGRID_EXPORT CalculatorNumber {
 public:
     enum class Precision : bool { Currency, Double };
 

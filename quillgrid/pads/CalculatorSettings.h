@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/locale/Locale.h"
 #include "quillgrid/pads/CalculatorNumber.h"
@@ -22,7 +23,7 @@ struct CalculatorSettings {
     friend bool operator==(const CalculatorSettings&, const CalculatorSettings&) = default;
 };
 
-CalculatorSettings ReadCalculatorSettings(const PropertyBag& bag, const Locale& locale);
-void WriteCalculatorSettings(const CalculatorSettings& settings, PropertyBag& bag);
+QUILLGRID_EXPORT CalculatorSettings ReadCalculatorSettings(const PropertyBag& bag, const Locale& locale);
+QUILLGRID_EXPORT void WriteCalculatorSettings(const CalculatorSettings& settings, PropertyBag& bag);
 
 } // namespace quillgrid

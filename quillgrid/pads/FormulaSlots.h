@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 #include "quillgrid/pads/Formulas.h"
 #include "quillgrid/platform/ImageSource.h"
@@ -12,7 +13,7 @@
 namespace quillgrid {
 
 /// The four formula keys: the formulas behind them, and what the keys use of each, kept ready.
-class FormulaSlots {
+class QUILLGRID_EXPORT FormulaSlots {
 public:
     static constexpr std::int32_t Count = 4;
 

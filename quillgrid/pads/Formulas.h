@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/KeyedList.h"
 #include "quillgrid/cells/ItemKey.h"
 #include "quillgrid/cells/PositionIterator.h"
@@ -21,7 +22,7 @@ struct FormulaArguments {
 };
 
 /// The formulas of the calculator; the first four are those of its formula keys.
-class Formulas {
+class QUILLGRID_EXPORT Formulas {
 public:
     using Pointer = std::shared_ptr<Formula>;
     using Iterator = PositionIterator<Formulas, Formula>;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/Event.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/cells/Cell.h"
 #include "quillgrid/pads/ListPadLayout.h"
 #include "quillgrid/pads/ListPadSearch.h"
@@ -29,7 +30,7 @@ struct ListPadPorts {
 /// Everything of the list pad but its window and its drawing: properties, layout, the current row, scrolling,
 /// keyboard and mouse. The entries are read live from the cell, and only those in view (all of them where
 /// AutoSize has to find the widest). Handlers of events may destroy the pad.
-class ListPadCore {
+class QUILLGRID_EXPORT ListPadCore {
 public:
     /// The current row was set, maybe to what it was.
     Event<> ValueChange;

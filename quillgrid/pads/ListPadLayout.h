@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Rect.h"
 #include "quillgrid/pads/ListPadSettings.h"
 
@@ -32,7 +33,7 @@ struct ListPadRow {
 
 /// Where everything of the list pad stands. Nothing in here depends on how far the rows are scrolled, and no
 /// row is looked at.
-struct ListPadLayout {
+struct QUILLGRID_EXPORT ListPadLayout {
     std::int32_t BorderWidth = 0;
     std::int32_t RowHeight = 1;
     std::int32_t RowCount = 0;
@@ -60,6 +61,7 @@ struct ListPadLayout {
     friend bool operator==(const ListPadLayout&, const ListPadLayout&) = default;
 };
 
-ListPadLayout LayOutListPad(const ListPadSettings& settings, const ListPadMeasures& measures);
+QUILLGRID_EXPORT ListPadLayout LayOutListPad(const ListPadSettings& settings,
+                                             const ListPadMeasures& measures);
 
 } // namespace quillgrid

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,7 +12,7 @@ class Listitems;
 
 /// Search by typing that counts the present row among the matches. Characters typed within half a second of
 /// each other, up to 20, form one search text.
-class ListPadSearch {
+class QUILLGRID_EXPORT ListPadSearch {
 public:
     /// The next row after `current` that begins with what was typed, else the first up to and including it;
     /// `current`, and the search text is emptied, when there is none. `tick` is the time in milliseconds.

@@ -2,6 +2,7 @@
 
 #include "quillgrid/base/Colour.h"
 #include "quillgrid/base/Constants.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/locale/Locale.h"
 #include "quillgrid/platform/Font.h"
 #include "quillgrid/platform/PropertyBag.h"
@@ -11,7 +12,7 @@
 namespace quillgrid {
 
 /// The persisted properties of the list pad, with their defaults.
-struct ListPadSettings {
+struct QUILLGRID_EXPORT ListPadSettings {
     static constexpr std::int32_t FewestRows = 1;
     static constexpr std::int32_t MostRows = 99;
 
@@ -29,7 +30,9 @@ struct ListPadSettings {
 };
 
 /// `ambient` is the host's font.
-ListPadSettings ReadListPadSettings(const PropertyBag& bag, const Font& ambient, const Locale& locale);
-void WriteListPadSettings(const ListPadSettings& settings, const Font& ambient, PropertyBag& bag);
+QUILLGRID_EXPORT ListPadSettings ReadListPadSettings(const PropertyBag& bag, const Font& ambient,
+                                                     const Locale& locale);
+QUILLGRID_EXPORT void WriteListPadSettings(const ListPadSettings& settings, const Font& ambient,
+                                           PropertyBag& bag);
 
 } // namespace quillgrid

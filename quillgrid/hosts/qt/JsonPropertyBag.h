@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/hosts/qt/KeySpelling.h"
 #include "quillgrid/platform/PropertyBag.h"
 
@@ -18,7 +19,7 @@ struct [[nodiscard]] FileResult {
 /// The properties of a form as a JSON object, in memory or in a file: {"Caption": "Address", "Style": 0,
 /// "CellFont": {"family": "Serif", "size": 11, "bold": false, "italic": false}}. What equals its default is
 /// left out. Reading takes any object: what is missing or cannot be the property asked for gives its default.
-class JsonPropertyBag : public PropertyBag {
+class QUILLGRID_EXPORT JsonPropertyBag : public PropertyBag {
     Q_DECLARE_TR_FUNCTIONS(JsonPropertyBag)
 
 public:

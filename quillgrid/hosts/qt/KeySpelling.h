@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -8,7 +10,7 @@ namespace quillgrid::qt {
 
 /// The keys of a store that tells capital letters apart, found in any case. Of several that differ in nothing
 /// else the last one counts.
-class KeySpelling {
+class QUILLGRID_EXPORT KeySpelling {
 public:
     KeySpelling() = default;
     explicit KeySpelling(const QStringList& keys) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/platform/ImageSource.h"
 
 #include <deque>
@@ -10,7 +11,7 @@ namespace quillgrid::qt {
 
 /// The ready-made images, 16 by 16 logical pixels, drawn crisp at any density and at home in light and dark
 /// palettes. They are shapes, not bitmaps, so that the mask colour is only kept.
-class QtImageSource : public ImageSource {
+class QUILLGRID_EXPORT QtImageSource : public ImageSource {
 public:
     QtImageSource();
 

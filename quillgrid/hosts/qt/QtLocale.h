@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/locale/Locale.h"
 
 #include <QLocale>
@@ -10,11 +11,11 @@ namespace quillgrid::qt {
 /// The control's own locale for a language and country that it knows, otherwise one made of what Qt knows.
 /// Short dates have a four-digit year and are numbers only, so that they can be typed again; texts are
 /// ordered as the language orders them.
-Locale LocaleFromQt(const QLocale& locale);
+QUILLGRID_EXPORT Locale LocaleFromQt(const QLocale& locale);
 
 /// A date or time pattern of Qt in the control's letters. Time zones are left out; "/" and ":" keep their
 /// meaning only where they are the locale's own separators.
-std::string PatternFromQt(const QString& pattern, const std::string& dateSeparator,
-                          const std::string& timeSeparator);
+QUILLGRID_EXPORT std::string PatternFromQt(const QString& pattern, const std::string& dateSeparator,
+                                           const std::string& timeSeparator);
 
 } // namespace quillgrid::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/platform/ImageSource.h"
 
 #include <QSize>
@@ -17,7 +18,7 @@ namespace quillgrid::qt {
 
 /// A picture that draws itself into a rectangle at any size and density, in the colours of the palette at
 /// hand. `QtPicture::FromImage` makes one of pixels: `grid.PaintPicture(*QtPicture::FromImage(image), {})`.
-class QtPicture : public Picture {
+class QUILLGRID_EXPORT QtPicture : public Picture {
 public:
     using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
+
 #ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
 #include "quillgrid/grid/Quillgrid.h"
 #endif
@@ -19,7 +21,7 @@ class WidgetHost;
 /// Signals carry what the control's events carry. Their by-reference arguments are pointers, valid only
 /// during the signal, so connect them directly (the default within one thread). A slot may delete the widget;
 /// while Qt hides or resizes it only with deleteLater, as Qt looks at it afterwards.
-class QuillgridWidget : public QWidget {
+class QUILLGRID_EXPORT QuillgridWidget : public QWidget {
     Q_OBJECT
     Q_PROPERTY(TabPolicy tabPolicy READ tabPolicy WRITE setTabPolicy)
 

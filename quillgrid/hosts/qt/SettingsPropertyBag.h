@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/hosts/qt/KeySpelling.h"
 #include "quillgrid/platform/PropertyBag.h"
 
@@ -12,7 +13,7 @@ namespace quillgrid::qt {
 /// The properties of a form in the settings of an application, one setting each and a font as a group of
 /// four. What equals its default is removed. Reading takes anything: what is missing or cannot be the
 /// property asked for gives its default.
-class SettingsPropertyBag : public PropertyBag {
+class QUILLGRID_EXPORT SettingsPropertyBag : public PropertyBag {
 public:
     /// The settings must outlive the bag and, while it is used, stand in the group that they stand in now,
     /// below which `group` lies ("Forms/Address").

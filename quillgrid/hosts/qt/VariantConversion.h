@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/base/DateTime.h"
+#include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 
 #include <QVariant>
@@ -14,13 +15,13 @@ namespace quillgrid::qt {
 /// Whole numbers beyond 32 bits become doubles where these are exact, else text; dates outside years 100 to
 /// 9999 become ISO text; null and invalid variants become Null; anything else what Qt converts to text.
 /// Milliseconds of times are dropped.
-Variant VariantFromQt(const QVariant& value);
+QUILLGRID_EXPORT Variant VariantFromQt(const QVariant& value);
 
 /// Currency becomes a double where that keeps every digit, else text; a date without time a QDate, a time of
 /// day 0 a QTime, other dates a QDateTime of local time; empty, Null and objects an invalid variant.
-QVariant ToQVariant(const Variant& value);
+QUILLGRID_EXPORT QVariant ToQVariant(const Variant& value);
 
 /// Nothing outside years 100 to 9999 and for invalid dates.
-std::optional<DateTime> DateTimeFromQt(const QDateTime& value);
+QUILLGRID_EXPORT std::optional<DateTime> DateTimeFromQt(const QDateTime& value);
 
 } // namespace quillgrid::qt
