@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <limits>
+#include <numeric>
 
 namespace quillgrid {
 
@@ -12,8 +13,12 @@ constexpr std::array<std::int64_t, 5> PowersOfTen{1, 10, 100, 1'000, 10'000};
 constexpr std::int64_t Thousandths = 1'000; // of a euro, in which amounts pass from one currency to another
 constexpr std::int64_t FineScale = Currency::Scale;
 
-/// value x factor / divisor, halves away from zero. factor x divisor is below 2^62.
+/// value x factor / divisor, halves away from zero. The rates have six digits: without what factor and
+/// divisor have in common their product is below 2^62.
 std::optional<std::int64_t> MultiplyAndDivide(std::int64_t value, std::int64_t factor, std::int64_t divisor) {
+    const std::int64_t common = std::gcd(factor, divisor);
+    factor /= common;
+    divisor /= common;
     if (value < 0) {
         if (value == std::numeric_limits<std::int64_t>::min()) return std::nullopt;
         const auto positive = MultiplyAndDivide(-value, factor, divisor);
