@@ -10,6 +10,10 @@ function(quillgrid_options target)
   set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF POSITION_INDEPENDENT_CODE ON
                                           CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    # It calls what the standard library of g++ does inside stable_sort deprecated.
+    target_compile_options(${target} PRIVATE -Wno-deprecated-declarations)
+  endif()
   if(QUILLGRID_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
