@@ -1,4 +1,16 @@
-# One library target per folder, each linked only to what it may see.
+# One library target per folder, each linked only to what it may see. As shared libraries the folders of the core
+# become one, which has nothing to export to itself.
+set(QUILLGRID_CORE_FOLDERS base locale platform resources cells euro calendar pads grid)
+
+# The version stands in project() alone; code and packages read it from here. Before 1.0 each minor version has a
+# binary interface of its own.
+set(QUILLGRID_ABI ${PROJECT_VERSION_MAJOR})
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(QUILLGRID_ABI ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endif()
+set(QUILLGRID_GENERATED ${PROJECT_BINARY_DIR}/generated)
+configure_file(cmake/Version.h.in ${QUILLGRID_GENERATED}/quillgrid/base/Version.h @ONLY)
+set(QUILLGRID_QT_VERSION 6.4)
 
 find_program(QUILLGRID_CCACHE ccache)
 if(QUILLGRID_CCACHE AND PROJECT_IS_TOP_LEVEL)
@@ -17,10 +29,25 @@ function(quillgrid_options target)
   if(QUILLGRID_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
+  if(BUILD_SHARED_LIBS)
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+    target_compile_definitions(${target} PUBLIC QUILLGRID_SHARED)
+  endif()
   if(QUILLGRID_SANITIZE)
     target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-sanitize-recover=all
                                             -fno-omit-frame-pointer)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# What becomes a library file of its own: its name and its versions.
+function(quillgrid_packaged target name)
+  set_target_properties(${target} PROPERTIES OUTPUT_NAME quillgrid-${name} VERSION ${PROJECT_VERSION}
+                                             SOVERSION ${QUILLGRID_ABI})
+  if(BUILD_SHARED_LIBS)
+    target_link_options(${target} PRIVATE -Wl,--no-undefined
+                                          -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
   endif()
 endfunction()
 
@@ -29,13 +56,18 @@ function(quillgrid_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
   set(target quillgrid_${name})
   if(ARG_SOURCES)
-    add_library(${target} STATIC ${ARG_SOURCES})
-    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
+    set(kind STATIC)
+    if(BUILD_SHARED_LIBS AND name IN_LIST QUILLGRID_CORE_FOLDERS)
+      set(kind OBJECT)
+    endif()
+    add_library(${target} ${kind} ${ARG_SOURCES})
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME quillgrid-${name})
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
     quillgrid_options(${target})
     set(scope PUBLIC)
   else()
     add_library(${target} INTERFACE)
-    target_include_directories(${target} INTERFACE ${PROJECT_SOURCE_DIR})
+    target_include_directories(${target} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
     set(scope INTERFACE)
   endif()
   foreach(dependency IN LISTS ARG_DEPENDS)

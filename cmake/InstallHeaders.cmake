@@ -1,0 +1,20 @@
+# Installs HEADERS (paths from the top) and every header of the project that they include, directly or not, from
+# whichever of SOURCE_FOLDERS has it, into DESTINATION.
+cmake_policy(VERSION 3.25)
+
+set(waiting ${HEADERS})
+set(seen "")
+while(waiting)
+  list(POP_FRONT waiting header)
+  if(header IN_LIST seen)
+    continue()
+  endif()
+  list(APPEND seen ${header})
+  unset(found CACHE)
+  find_file(found ${header} PATHS ${SOURCE_FOLDERS} NO_DEFAULT_PATH REQUIRED)
+  get_filename_component(folder ${header} DIRECTORY)
+  file(INSTALL DESTINATION ${DESTINATION}/${folder} TYPE FILE FILES ${found})
+  file(STRINGS ${found} includes REGEX "^[ \t]*#[ \t]*include[ \t]*[\"<]quillgrid/")
+  list(TRANSFORM includes REPLACE "^[^\"<]*[\"<]([^\">]+)[\">].*$" "\\1")
+  list(APPEND waiting ${includes})
+endwhile()

@@ -1,0 +1,52 @@
+# Debian packages (tools/make_packages): the shared libraries, Qt's apart from the core, and what developers need.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME quillgrid)
+set(CPACK_PACKAGE_CONTACT "The Quillgrid developers <quillgrid@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+# As dpkg wants folders: not as permissive as the umask of whoever packs.
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+                                                WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+set(CPACK_COMPONENTS_ALL core dev)
+if(QUILLGRID_BUILD_QT)
+  set(CPACK_COMPONENTS_ALL core qt6 qt6sql dev)
+endif()
+
+# Libraries that cannot stand in for each other are installed side by side: their name carries the version.
+set(developer_needs "")
+foreach(part core qt6 qt6sql)
+  string(TOUPPER ${part} upper)
+  set(package libquillgrid-${part}-${QUILLGRID_ABI})
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+  set(CPACK_COMPONENT_${upper}_DESCRIPTION "${PROJECT_DESCRIPTION}")
+  if(part IN_LIST CPACK_COMPONENTS_ALL)
+    list(APPEND developer_needs "${package} (= ${PROJECT_VERSION})")
+  endif()
+endforeach()
+if(QUILLGRID_BUILD_QT)
+  list(APPEND developer_needs "qt6-base-dev (>= ${QUILLGRID_QT_VERSION})")
+endif()
+list(JOIN developer_needs ", " CPACK_DEBIAN_DEV_PACKAGE_DEPENDS)
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libquillgrid-dev)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEV_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_COMPONENT_DEV_DESCRIPTION "Headers, CMake and pkg-config files of Quillgrid")
+
+foreach(part IN LISTS CPACK_COMPONENTS_ALL)
+  if(NOT part STREQUAL dev)
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR}-${part} RENAME copyright
+            COMPONENT ${part})
+  endif()
+endforeach()
+# Where dpkg looks for the dependencies of one of these libraries on another.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/quillgrid ${PROJECT_BINARY_DIR}/quillgrid/hosts/qt)
+include(CPack)
