@@ -67,10 +67,10 @@ void GridCore::FocusGained() {
 }
 
 void GridCore::FocusLost() {
-    if (State.Terminated || State.CommitBusy || !State.UserMode) return;
+    if (State.Terminated || !State.UserMode) return;
     Spin.Stop();
     const FlagGuard leaving(State.LeavingFocus);
-    const CommitResult result = Commit.Commit();
+    const CommitResult result = Commit.Commit(); // nothing where a handler of a commit sent the focus away
     if (result == CommitResult::Gone) return;
     if (result == CommitResult::Cancelled) {
         Seat.TakeFocus();

@@ -413,6 +413,17 @@ TEST_F(Edit, LeavingAndComingBackTellTheHostInOrder) {
     EXPECT_EQ(host.Focus, FocusPlace::EditBox);
 }
 
+TEST_F(Edit, HandlersMaySendTheFocusElsewhereInTheMidstOfACommit) {
+    host.Grid->Change.Listen([&](Cell&) { host.LeaveControl(); });
+    GoTo("name");
+    host.Type("Bob");
+    host.Press(KeyEnter);
+    EXPECT_EQ(At("name").Text(), "Bob");
+    EXPECT_EQ(host.Grid->Cell()->Key(), "count");
+    EXPECT_FALSE(host.Box.Visible) << "nobody edits there";
+    EXPECT_EQ(host.Focus, FocusPlace::Outside);
+}
+
 TEST_F(Edit, DoubleClickIsF4WhereThereIsAButton) {
     GoTo("flag");
     At("flag").SetButton(qgbtNone);
