@@ -31,6 +31,30 @@ def xdotool(*arguments):
     return run.stdout.strip()
 
 
+class Picture:
+    """What a window shows."""
+
+    def __init__(self, window):
+        run = subprocess.run(["import", "-window", str(window), "-depth", "8", "ppm:-"], capture_output=True,
+                             check=True)
+        _, size, _, self.pixels = run.stdout.split(b"\n", 3)
+        self.width, self.height = map(int, size.split())
+
+    def part(self, left, top, right, bottom):
+        return b"".join(self.pixels[3 * (y * self.width + left):3 * (y * self.width + right)]
+                        for y in range(top, bottom))
+
+    def pixel(self, x, y):
+        return tuple(self.part(x, y, x + 1, y + 1))
+
+    def count(self, colour):
+        found = start = 0
+        while (start := self.pixels.find(bytes(colour), start)) >= 0:
+            found += start % 3 == 0
+            start += 1
+        return found
+
+
 class Desktop:
     """A German keyboard, and a window manager: without one no window is ever active."""
 
@@ -53,11 +77,13 @@ class Desktop:
 
 
 class Editor:
-    """The editor on its own copy of the sample database."""
+    """The editor on its own copy of the sample database, changed before it starts by `preparation`."""
 
-    def __init__(self, program, sample, folder, table="companies"):
+    def __init__(self, program, sample, folder, preparation="", table="companies"):
         self.database = os.path.join(folder, "edited.sqlite")
         shutil.copyfile(sample, self.database)
+        with sqlite3.connect(self.database) as database:
+            database.executescript(preparation)
         self.table = table
         self.process = subprocess.Popen([program, self.database, "--table", table, "--locale", "de_DE"],
                                         stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
@@ -94,8 +120,38 @@ class Editor:
     def type(self, text):
         xdotool("type", "--delay", 20, "--", text)
 
-    def click(self, x, y):
-        xdotool("mousemove", "--window", self.window, x, y, "click", 1)
+    def click(self, x, y, button=1, times=1):
+        xdotool("mousemove", "--window", self.window, x, y, "click", "--repeat", times, "--delay", 40, button)
+
+    def hold(self, x, y):
+        xdotool("mousemove", "--window", self.window, x, y, "mousedown", 1)
+
+    def move(self, x, y):
+        xdotool("mousemove", "--window", self.window, x, y)
+
+    @staticmethod
+    def let_go():
+        xdotool("mouseup", 1)
+
+    def minimize(self):
+        xdotool("windowminimize", "--sync", self.window)
+
+    def activate(self):
+        xdotool("windowmap", "--sync", self.window, "windowactivate", self.window)
+        wait_for("the window to be active", lambda: self._active_window() == self.window)
+
+    def size(self):
+        said = dict(line.split("=") for line in xdotool("getwindowgeometry", "--shell", self.window).split())
+        return int(said["WIDTH"]), int(said["HEIGHT"])
+
+    def resize(self, width, height):
+        """Asks for a size; the window may have an opinion."""
+        before = self.size()
+        xdotool("windowsize", self.window, width, height)
+        wait_for("another size", lambda: self.size() != before)
+
+    def look(self):
+        return Picture(self.window)
 
     def save(self):
         self.press("ctrl+s")
