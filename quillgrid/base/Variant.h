@@ -71,7 +71,7 @@ public:
     std::string ToPlainText() const;
 
     /// Same type and same value; an object is unequal to everything, itself included.
-    friend bool operator==(const Variant& left, const Variant& right);
+    friend QUILLGRID_EXPORT bool operator==(const Variant& left, const Variant& right);
 
 private:
     std::variant<EmptyValue, NullValue, std::int16_t, std::int32_t, quillgrid::Currency, double, DateTime,
