@@ -23,8 +23,9 @@ MonthTable& WorkCalendar::ResolveHolidays(DateTime date) {
 }
 
 /// Other questions have left the rules at another year or month.
-void WorkCalendar::ShowCurrentMonth() {
-    book_.Show(YearDayOf(CurrentDay()));
+MonthTable& WorkCalendar::ShowMonth(DateTime date) {
+    book_.Show(YearDayOf(NearestValidDay(date.Day)));
+    return book_.Table();
 }
 
 bool WorkCalendar::IsBlocked(std::int32_t day, const DayFlags& flags) {
@@ -184,6 +185,12 @@ void WorkCalendar::SetUserDate(std::size_t which, DateTime date, const char* nam
     Mark(name);
 }
 
+void WorkCalendar::RestoreAutoHolidays(AutoHolidayConstants preset) {
+    settings_.AutoHolidays = preset;
+    LoadAutoHolidays();
+    ResolveHolidays(settings_.CurrentDate);
+}
+
 bool WorkCalendar::SetAutoHolidays(AutoHolidayConstants preset) {
     const std::weak_ptr<bool> life = life_;
     settings_.AutoHolidays = preset;
@@ -191,8 +198,7 @@ bool WorkCalendar::SetAutoHolidays(AutoHolidayConstants preset) {
     if (life.expired()) return false;
     // The date is looked for under the rules that were: they go only afterwards.
     if (!SetCurrentDate(NearestAllowedDate(settings_.CurrentDate))) return false;
-    LoadAutoHolidays();
-    ResolveHolidays(settings_.CurrentDate);
+    RestoreAutoHolidays(settings_.AutoHolidays); // whoever heard may have chosen another one
     if (owner_) owner_->HolidaysReloaded();
     return !life.expired();
 }

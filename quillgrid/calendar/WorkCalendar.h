@@ -61,6 +61,8 @@ public:
     bool SetCurrentDate(DateTime date);
 
     AutoHolidayConstants AutoHolidays() const { return settings_.AutoHolidays; }
+    /// The rules of a preset that was kept; `CurrentDate` stays, and nobody is told.
+    void RestoreAutoHolidays(AutoHolidayConstants preset);
     /// Loads the preset's rules in place of all others, even when it is the present one. Its tables stand as
     /// they are, whatever the law of a state or a year says.
     bool SetAutoHolidays(AutoHolidayConstants preset);
@@ -72,6 +74,8 @@ public:
     void SetHolidays(std::shared_ptr<quillgrid::Holidays> rules) { book_.SetRules(std::move(rules)); }
     /// Resolves the rules for the date's year and builds the table of its month.
     MonthTable& ResolveHolidays(DateTime date);
+    /// The table of the date's month; the rules are resolved anew when its year is another one.
+    MonthTable& ShowMonth(DateTime date);
     /// The table of the month examined last.
     MonthTable& Table() { return book_.Table(); }
 
@@ -119,7 +123,7 @@ private:
     std::int32_t CountWorkDays(std::int32_t first, std::int32_t last);
     std::int32_t StepWorkDays(std::int32_t day, std::int64_t n);
     std::int32_t StepKnownDays(std::int32_t day, std::int64_t n);
-    void ShowCurrentMonth();
+    void ShowCurrentMonth() { ShowMonth(settings_.CurrentDate); }
 
     std::string& Config();
     std::string_view ConfigKey() const;
