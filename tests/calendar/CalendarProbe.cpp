@@ -1,7 +1,9 @@
 // Answers questions from the standard input, one a line, so that a script can hold the calendar against
 // others:
 //   preset NUMBER ENABLE_STRING | easter YEAR | list YEAR | diff DAY DAY | add DAY COUNT
-// Days are day numbers. `list` gives the days of the enabled rules.
+//   weeks FIRST_DAY_OF_WEEK RULE DAY DAY
+// Days are day numbers. `list` gives the days of the enabled rules, `weeks` the numbers of the week of each
+// day.
 #include "quillgrid/calendar/WorkCalendar.h"
 
 #include <iostream>
@@ -29,6 +31,14 @@ void List(WorkCalendar& calendar, std::int32_t year) {
     std::cout << "\n";
 }
 
+void Weeks(std::istream& in) {
+    std::int32_t firstDay = 0, rule = 0, first = 0, last = 0;
+    in >> firstDay >> rule >> first >> last;
+    for (std::int32_t day = first; day <= last; ++day)
+        std::cout << WeekOfYear(day, DayOfWeekConstants{firstDay}, FirstWeekOfYearConstants{rule}) << " ";
+    std::cout << "\n";
+}
+
 } // namespace
 
 int main() {
@@ -39,6 +49,10 @@ int main() {
         std::int32_t first = 0, second = 0;
         if (question == "preset") {
             Load(calendar, std::cin);
+            continue;
+        }
+        if (question == "weeks") {
+            Weeks(std::cin);
             continue;
         }
         std::cin >> first;
