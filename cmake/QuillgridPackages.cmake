@@ -23,30 +23,33 @@ endif()
 
 # Libraries that cannot stand in for each other are installed side by side: their name carries the version.
 set(developer_needs "")
-foreach(part core qt6 qt6sql)
+foreach(part IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${part} upper)
   set(package libquillgrid-${part}-${QUILLGRID_ABI})
-  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
-  set(CPACK_COMPONENT_${upper}_DESCRIPTION "${PROJECT_DESCRIPTION}")
-  if(part IN_LIST CPACK_COMPONENTS_ALL)
+  if(part STREQUAL dev)
+    set(package libquillgrid-dev)
+  else()
     list(APPEND developer_needs "${package} (= ${PROJECT_VERSION})")
   endif()
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+  install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package}
+          RENAME copyright COMPONENT ${part})
 endforeach()
+# dpkg finds the rest of what they need in the libraries, but knows no package yet for each other.
+set(CPACK_DEBIAN_QT6_PACKAGE_DEPENDS "libquillgrid-core-${QUILLGRID_ABI} (>= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_QT6SQL_PACKAGE_DEPENDS "libquillgrid-qt6-${QUILLGRID_ABI} (>= ${PROJECT_VERSION})")
 if(QUILLGRID_BUILD_QT)
   list(APPEND developer_needs "qt6-base-dev (>= ${QUILLGRID_QT_VERSION})")
 endif()
 list(JOIN developer_needs ", " CPACK_DEBIAN_DEV_PACKAGE_DEPENDS)
-set(CPACK_DEBIAN_DEV_PACKAGE_NAME libquillgrid-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_COMPONENT_CORE_DESCRIPTION "The control without a window system, with its calendar of work days")
+set(CPACK_COMPONENT_QT6_DESCRIPTION "The control as a Qt widget")
+set(CPACK_COMPONENT_QT6SQL_DESCRIPTION "Records of Qt's SQL module for the control")
 set(CPACK_COMPONENT_DEV_DESCRIPTION "Headers, CMake and pkg-config files of Quillgrid")
 
-foreach(part IN LISTS CPACK_COMPONENTS_ALL)
-  if(NOT part STREQUAL dev)
-    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR}-${part} RENAME copyright
-            COMPONENT ${part})
-  endif()
-endforeach()
-# Where dpkg looks for the dependencies of one of these libraries on another.
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/quillgrid ${PROJECT_BINARY_DIR}/quillgrid/hosts/qt)
+# Where dpkg-shlibdeps finds one of these libraries when another needs it.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/quillgrid
+                                                ${PROJECT_BINARY_DIR}/quillgrid/hosts/qt)
 include(CPack)
