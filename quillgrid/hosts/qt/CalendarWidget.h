@@ -1,0 +1,61 @@
+#pragma once
+
+#include "quillgrid/base/Export.h"
+
+#ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
+#include "quillgrid/calendar/QGCalendar.h"
+#endif
+
+#include <QDate>
+#include <QWidget>
+
+namespace quillgrid::qt {
+
+class DatePadWidget;
+
+/// The calendar by itself, in a layout or with `Qt::Popup` as a window that drops down: a month with its
+/// holidays, week numbers and date ranges. It follows the widget's font, palette, locale, direction and
+/// enabled state.
+///
+/// A slot may delete the widget.
+class QUILLGRID_EXPORT CalendarWidget : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QDate currentDate READ currentDate WRITE setCurrentDate NOTIFY dateChange USER true)
+
+public:
+    explicit CalendarWidget(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+    ~CalendarWidget() override;
+
+    /// The calendar itself; lives as long as the widget. What is set there shows at its next `Refresh`.
+    QGCalendar& pad();
+    const QGCalendar& pad() const;
+
+    QDate currentDate() const;
+    /// The nearest date that may be picked; an invalid date changes nothing.
+    void setCurrentDate(QDate date);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    /// Another day became the current one, while the widget is enabled.
+    void dateChange(QDate date);
+    /// The user is done: clicked a day, pressed Enter, Space or Escape, or clicked beside a popup.
+    void dateClick(QDate date);
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void FollowLook();
+
+    Font ambientFont_;   ///< the widget's, as the calendar took it over last
+    DatePadWidget* pad_; ///< a child
+};
+
+} // namespace quillgrid::qt
