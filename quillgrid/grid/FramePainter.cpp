@@ -50,6 +50,14 @@ void PaintPanelLines(Canvas& canvas, const Rect& control, BevelOuterConstants be
     }
 }
 
+/// Its upper edge runs through the middle of the caption, which has no room further up beside a narrow bevel.
+Rect GroupFrame(const GridLayout& layout) {
+    Rect frame = layout.InnerBevel;
+    const Rect& caption = layout.GroupCaption;
+    if (!caption.IsEmpty()) frame.Top = std::max(frame.Top, caption.Top + caption.Height() / 2 - 1);
+    return frame;
+}
+
 EdgeKind BoxEdge(ButtonLook look) {
     switch (look) {
     case ButtonLook::Hot: return EdgeKind::RaisedInner;
@@ -109,18 +117,17 @@ void FramePainter::PaintEdges() {
     const GridSettings& settings = state_.Settings;
     PaintEdge(canvas_, state_.Layout.Control, settings.BevelOuter);
     PaintPanelLines(canvas_, state_.Layout.Control, settings.BevelOuter);
-    if (settings.BevelInner == qgbiGroupFrame) {
-        PaintGroupFrame();
-    } else {
-        PaintEdge(canvas_, state_.Layout.InnerBevel, settings.BevelInner);
-    }
+    const bool groupFrame = settings.BevelInner == qgbiGroupFrame;
+    if (groupFrame) canvas_.Edge(GroupFrame(state_.Layout), EdgeKind::Etched);
+    if (!groupFrame) PaintEdge(canvas_, state_.Layout.InnerBevel, settings.BevelInner);
     PaintEdge(canvas_, state_.Layout.Frame, settings.BorderStyle);
     if (!state_.Layout.Tips.IsEmpty()) PaintEdge(canvas_, state_.Layout.Tips, settings.BorderStyle);
+    if (groupFrame) PaintGroupCaption();
 }
 
-/// The caption interrupts the frame's upper edge.
-void FramePainter::PaintGroupFrame() {
-    canvas_.Edge(state_.Layout.InnerBevel, EdgeKind::Etched);
+/// It interrupts the frame's upper edge, and comes last: the border below would strike through its lower
+/// half.
+void FramePainter::PaintGroupCaption() {
     const Rect& caption = state_.Layout.GroupCaption;
     if (caption.IsEmpty()) return;
     canvas_.Fill(caption, state_.Colours.Background);

@@ -18,7 +18,7 @@ public:
 
 private:
     void PaintBox(const Rect& box, Glyph glyph, MousePart::Kind kind);
-    void PaintGroupFrame();
+    void PaintGroupCaption();
     Rect StyledContent() const;
 
     const GridState& state_;

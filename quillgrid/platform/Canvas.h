@@ -52,7 +52,8 @@ public:
     /// Centred in `area`, pixels left over at the right and below; black in light palettes, green when
     /// pressed.
     virtual void DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) = 0;
-    /// Text never leaves `area`.
+    /// A line too long for `area` is shortened. Text never leaves `area`, but for a pixel or two of slanted
+    /// letters and accents.
     virtual void Text(const Rect& area, std::string_view text, const TextStyle& style) = 0;
     virtual void Image(const Rect& area, const Picture& picture) = 0;
     virtual void PlacePicture(const Picture& picture, const PicturePlacement& placement) = 0;

@@ -200,6 +200,8 @@ TEST(Paint, GroupFrameHasTheCaptionInItsEdge) {
     EXPECT_THAT(canvas.Starting("edge"),
                 ElementsAre("edge 12,12 - 188,108 etched", "edge 18,18 - 182,102 sunken"));
     EXPECT_THAT(canvas.Starting("text 20,7"), ElementsAre("text 20,7 - 54,20 'Form' sys8 centre bold"));
+    const std::string dump = Dump(canvas);
+    EXPECT_LT(dump.find("sunken"), dump.find("'Form'")); // or the border would strike the caption through
 }
 
 TEST(Paint, ButtonsFollowTheAppearance) {

@@ -38,6 +38,7 @@ void BackingStore::Draw(const std::function<void(Canvas&)>& draw) {
     BringUpToDate();
     QPainter painter(&image_);
     QtCanvas canvas(painter, widget_.palette(), widget_.font());
+    if (widget_.isRightToLeft()) canvas.MirrorWithin(widget_.width());
     if (clip_) canvas.SetClip(*clip_);
     draw(canvas);
     widget_.update();

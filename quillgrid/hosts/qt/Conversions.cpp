@@ -1,6 +1,7 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 
 #include <QFontInfo>
+#include <QWidget>
 
 #include <cmath>
 
@@ -31,6 +32,15 @@ QString OnOneLine(QString text) {
         }
     }
     return text;
+}
+
+Rect OnWidget(const Rect& area, const QWidget& widget) {
+    return widget.isRightToLeft() ? Mirrored(area, widget.width()) : area;
+}
+
+Point OnControl(QPointF point, const QWidget& widget) {
+    const Point place = FromQPoint(point.toPoint());
+    return widget.isRightToLeft() ? Point{widget.width() - 1 - place.X, place.Y} : place;
 }
 
 Font FromQFont(const QFont& font) {

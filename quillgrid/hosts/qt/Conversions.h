@@ -6,11 +6,16 @@
 
 #include <QFont>
 #include <QPoint>
+#include <QPointF>
 #include <QRect>
 #include <QString>
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
+
+class QWidget;
 
 namespace quillgrid::qt {
 
@@ -34,6 +39,23 @@ inline Rect FromQRect(const QRect& area) {
 inline Point FromQPoint(QPoint point) {
     return {point.x(), point.y()};
 }
+
+/// What a host draws may lie anywhere.
+inline constexpr std::int64_t Farthest = 1'000'000'000;
+
+/// The same place counted from the other side of a surface: there and back again.
+inline Rect Mirrored(const Rect& area, std::int32_t width) {
+    const auto across = [width](std::int32_t x) {
+        return static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(std::int64_t{width} - x, -Farthest, Farthest));
+    };
+    return {across(area.Right), area.Top, across(area.Left), area.Bottom};
+}
+
+/// The control lays out and counts from the left; a widget that runs from right to left shows it mirrored.
+Rect OnWidget(const Rect& area, const QWidget& widget);
+/// The control's point under a point of the widget.
+Point OnControl(QPointF point, const QWidget& widget);
 
 /// The description of a Qt font, its size in points however it was set.
 Font FromQFont(const QFont& font);

@@ -12,7 +12,8 @@ namespace quillgrid::qt {
 
 namespace {
 
-constexpr int Tip = 6;    ///< height of the pointer to the cell
+constexpr int Tip = 6; ///< height of the pointer to the cell
+constexpr int TipIndent = 12;
 constexpr int Margin = 8; ///< around the text
 constexpr int Sign = 16;  ///< the round sign before the text
 constexpr int Gap = 4;    ///< to the sides of the control
@@ -32,6 +33,12 @@ QPainterPath Outline(const QRectF& body, double tipX, bool tipAbove) {
     tip.lineTo(tipX + Tip, base);
     tip.closeSubpath();
     return path.united(tip);
+}
+
+/// A part of the body, seen from the side where the text begins.
+QRectF Facing(QRectF part, const QRectF& body, Qt::LayoutDirection direction) {
+    if (direction == Qt::RightToLeft) part.moveRight(body.left() + body.right() - part.left());
+    return part;
 }
 
 void DrawSign(QPainter& painter, const QRectF& area, const QColor& colour, const QColor& paper) {
@@ -78,13 +85,16 @@ QSize ErrorBubble::SizeFor(int width) const {
     return {text.width() + around + 2, std::max(text.height(), Sign) + 2 * Margin - 2 + Tip};
 }
 
+// It stands at the beginning of the value, as the text of the value does.
 void ErrorBubble::PointAt(const QRect& value) {
     const QRect room = parentWidget()->rect();
     const QSize size = SizeFor(room.width() - 2 * Gap);
     below_ = value.bottom() + size.height() <= room.bottom() || value.top() - size.height() < room.top();
-    const int left = std::max(Gap, std::min(value.left() - 2, room.right() - Gap - size.width()));
+    const int wanted = isRightToLeft() ? value.right() + 3 - size.width() : value.left() - 2;
+    const int left = std::max(Gap, std::min(wanted, room.right() - Gap - size.width()));
     const int top = below_ ? value.bottom() - 1 : value.top() - size.height() + 2;
-    tipX_ = std::clamp(value.left() + 12 - left, 2 * Tip, std::max(2 * Tip, size.width() - 2 * Tip));
+    const int tip = isRightToLeft() ? value.right() - TipIndent : value.left() + TipIndent;
+    tipX_ = std::clamp(tip - left, 2 * Tip, std::max(2 * Tip, size.width() - 2 * Tip));
     setGeometry(QRect(QPoint(left, top), size));
 }
 
@@ -103,9 +113,11 @@ void ErrorBubble::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(Mixed(paper, signal, 0.75), 1));
     painter.setBrush(paper);
     painter.drawPath(Outline(body, tipX_ + 0.5, below_));
-    DrawSign(painter, {body.left() + Margin, body.center().y() - Sign / 2.0, Sign, Sign}, signal, paper);
+    const QRectF sign(body.left() + Margin, body.center().y() - Sign / 2.0, Sign, Sign);
+    const QRectF text = body.adjusted(2 * Margin + Sign, 0, -Margin / 2.0, 0);
+    DrawSign(painter, Facing(sign, body, layoutDirection()), signal, paper);
     painter.setPen(Mixed(palette().color(QPalette::Text), signal, 0.35));
-    painter.drawText(body.adjusted(2 * Margin + Sign, 0, -Margin / 2.0, 0),
+    painter.drawText(Facing(text, body, layoutDirection()),
                      static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap), text_);
 }
 

@@ -40,7 +40,8 @@ bool IsControlCharacter(char32_t character) {
 
 } // namespace
 
-KeyRouter::KeyRouter(Quillgrid& grid, GridLineEdit& edit) : grid_(grid), edit_(edit) {
+KeyRouter::KeyRouter(Quillgrid& grid, GridLineEdit& edit, const QWidget& owner)
+    : grid_(grid), edit_(edit), owner_(owner) {
     edit_.installEventFilter(this);
 }
 
@@ -150,7 +151,7 @@ bool KeyRouter::Release(QKeyEvent* event) {
 bool KeyRouter::DoubleClick(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return false;
     const QPointer<KeyRouter> alive(this);
-    grid_.DoubleClick(FromQPoint(edit_.mapToParent(event->position().toPoint())));
+    grid_.DoubleClick(OnControl(edit_.mapToParent(event->position()), owner_));
     return !alive;
 }
 

@@ -23,8 +23,8 @@ class GridLineEdit;
 /// comes: keyboard, input method or paste. A key may destroy the whole widget: nothing is touched after that.
 class KeyRouter : public QObject {
 public:
-    /// Both must outlive the router.
-    KeyRouter(Quillgrid& grid, GridLineEdit& edit);
+    /// All must outlive the router. `owner` is the control's widget, in which the edit box stands.
+    KeyRouter(Quillgrid& grid, GridLineEdit& edit, const QWidget& owner);
 
     /// Called before each key that is not only a modifier.
     std::function<void()> BeforeInput = [] {};
@@ -56,6 +56,7 @@ private:
 
     Quillgrid& grid_;
     GridLineEdit& edit_;
+    const QWidget& owner_;
     QString composed_; ///< not yet typed
 };
 

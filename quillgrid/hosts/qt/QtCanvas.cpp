@@ -1,16 +1,15 @@
 #include "quillgrid/hosts/qt/QtCanvas.h"
 
+#include "quillgrid/hosts/qt/ButtonColours.h"
 #include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/GlyphDrawing.h"
 #include "quillgrid/hosts/qt/QtPicture.h"
 #include "quillgrid/hosts/qt/QtTheme.h"
-#include "quillgrid/resources/Glyphs.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace quillgrid::qt {
 
@@ -23,6 +22,7 @@ struct Ring {
 };
 
 constexpr Colour None = 0xFFFFFFFFU;
+constexpr Colour ColourWindowFrame = SystemColour(6);
 constexpr Ring NoRing{None, None};
 
 struct EdgeRow {
@@ -32,21 +32,13 @@ struct EdgeRow {
 
 // In the order of EdgeKind.
 constexpr std::array<EdgeRow, 6> Edges{{
-    {{ColourButtonShadow, ColourButtonShadow}, NoRing},
+    {{ColourWindowFrame, ColourWindowFrame}, NoRing},
     {{ColourButtonShadow, ColourButtonHighlight}, {ColourDarkShadow, ColourLight3D}},
     {{ColourButtonHighlight, ColourDarkShadow}, {ColourLight3D, ColourButtonShadow}},
     {{ColourButtonShadow, ColourButtonHighlight}, NoRing},
     {{ColourButtonHighlight, ColourButtonShadow}, NoRing},
     {{ColourButtonShadow, ColourButtonHighlight}, {ColourButtonHighlight, ColourButtonShadow}},
 }};
-
-Qt::Alignment HorizontalAlignment(AlignmentConstants alignment) {
-    switch (alignment) {
-    case qgalRightJustify: return Qt::AlignRight;
-    case qgalCenter: return Qt::AlignHCenter;
-    default: return Qt::AlignLeft;
-    }
-}
 
 /// The ternary raster operations that painters have too; others copy.
 QPainter::CompositionMode ModeOf(std::int32_t operation) {
@@ -59,34 +51,13 @@ QPainter::CompositionMode ModeOf(std::int32_t operation) {
     }
 }
 
-QPainterPath OutlineOf(Glyph glyph) {
-    QPainterPath path; // odd-even is its own rule of filling
-    for (const GlyphContour contour : ContoursOf(glyph)) {
-        QPolygonF polygon;
-        for (const GlyphPoint point : contour)
-            polygon << QPointF(point.X, point.Y);
-        path.addPolygon(polygon);
-        path.closeSubpath();
+AlignmentConstants SwappedSides(AlignmentConstants alignment) {
+    switch (alignment) {
+    case qgalRightJustify: return qgalLeftJustify;
+    case qgalCenter: return qgalCenter;
+    default: return qgalRightJustify;
     }
-    return path;
 }
-
-/// Dark green; on a dark palette, where ink is light, a light one.
-QColor PressedInk(const QColor& ink) {
-    return ink.lightnessF() < 0.5 ? ToQColor(PressedGlyphColour, QPalette()) : QColor(96, 208, 96);
-}
-
-/// Where the text begins; in 64ths, as painters count, or roundings would part from theirs.
-QPointF CornerOf(const PreparedText& text, const QRect& room, AlignmentConstants alignment) {
-    const auto in64ths = [](qreal place) { return std::trunc(place * 64) / 64; };
-    qreal left = room.left();
-    if (alignment == qgalRightJustify) left += room.width() - text.Width;
-    if (alignment == qgalCenter) left += (room.width() - text.Width) / 2;
-    return {in64ths(left), in64ths(room.top() + (room.height() - text.Height) / 2)};
-}
-
-/// What is wider than any screen is not worth shaping.
-constexpr qsizetype LongestText = 10'000;
 
 constexpr std::size_t ColoursKept = 32;
 constexpr int TallFill = 64;
@@ -96,12 +67,11 @@ constexpr int TallFill = 64;
 QtCanvas::QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font, PreparedTexts* texts)
     : painter_(painter),
       palette_(palette),
-      font_(font),
-      texts_(texts),
+      lines_(painter, font, texts),
+      grid_(painter),
       given_(painter.clipRegion()),
       clipped_(painter.hasClipping()) {
     colours_.reserve(ColoursKept);
-    if (texts_) texts_->Use(font_, *painter_.device());
 }
 
 /// Shades of system colours are mixed anew each time: the few of one painting are remembered.
@@ -113,94 +83,80 @@ const QColor& QtCanvas::ColourOf(Colour colour) {
     return colours_.emplace_back(colour, ToQColor(colour, palette_)).second;
 }
 
+Rect QtCanvas::Placed(const Rect& area) const {
+    return mirrored_ ? Mirrored(area, *mirrored_) : area;
+}
+
 // Where child widgets cut holes into the clip, filling across them goes span by span, in several threads:
 // part by part it is a plain copy.
 void QtCanvas::Fill(const Rect& area, Colour colour) {
     if (area.IsEmpty()) return;
-    const QRect whole = ToQRect(area);
+    const Rect placed = Placed(area);
     const QColor& paint = ColourOf(colour);
-    if (given_.rectCount() <= 1 || whole.height() < TallFill) return painter_.fillRect(whole, paint);
+    if (given_.rectCount() <= 1 || placed.Height() < TallFill || grid_.IsFractional())
+        return FillPixels(grid_.ToDevice(placed), paint);
     for (const QRect& part : given_)
-        painter_.fillRect(part & whole, paint);
+        painter_.fillRect(part & ToQRect(placed), paint);
+}
+
+void QtCanvas::FillPixels(const QRect& device, const QColor& colour) {
+    if (!device.isEmpty()) painter_.fillRect(grid_.ToPainter(device), colour);
 }
 
 void QtCanvas::Line(Point from, Point to, Colour colour) {
-    if (from.Y == to.Y) {
-        Fill({std::min(from.X, to.X), from.Y, std::max(from.X, to.X), from.Y + 1}, colour);
-    } else {
-        Fill({from.X, std::min(from.Y, to.Y), from.X + 1, std::max(from.Y, to.Y)}, colour);
-    }
+    const Rect area = from.Y == to.Y
+                          ? Rect{std::min(from.X, to.X), from.Y, std::max(from.X, to.X), from.Y + 1}
+                          : Rect{from.X, std::min(from.Y, to.Y), from.X + 1, std::max(from.Y, to.Y)};
+    if (!area.IsEmpty()) FillPixels(grid_.LineToDevice(Placed(area)), ColourOf(colour));
 }
 
-void QtCanvas::Frame(const Rect& area, Colour topLeft, Colour bottomRight) {
-    if (area.IsEmpty() || topLeft == None) return;
-    Fill({area.Left, area.Top, area.Right, area.Top + 1}, topLeft);
-    Fill({area.Left, area.Top + 1, area.Left + 1, area.Bottom}, topLeft);
-    Fill({area.Left + 1, area.Bottom - 1, area.Right, area.Bottom}, bottomRight);
-    Fill({area.Right - 1, area.Top + 1, area.Right, area.Bottom - 1}, bottomRight);
+/// Returns what lies inside.
+QRect QtCanvas::PaintRing(const QRect& device, const QColor& topLeft, const QColor& bottomRight) {
+    const int line = grid_.Hairline();
+    const QRect inside = device.adjusted(line, line, -line, -line);
+    const auto fill = [this](int left, int top, int right, int bottom, const QColor& colour) {
+        FillPixels({QPoint(left, top), QPoint(right, bottom)}, colour);
+    };
+    fill(device.left(), device.top(), device.right(), inside.top() - 1, topLeft);
+    fill(device.left(), inside.top(), inside.left() - 1, device.bottom(), topLeft);
+    fill(inside.left(), inside.bottom() + 1, device.right(), device.bottom(), bottomRight);
+    fill(inside.right() + 1, inside.top(), device.right(), inside.bottom(), bottomRight);
+    return inside;
 }
 
 void QtCanvas::Edge(const Rect& area, EdgeKind kind) {
     const auto index = static_cast<std::size_t>(kind);
-    if (index >= Edges.size()) return;
-    Frame(area, Edges[index].Outer.TopLeft, Edges[index].Outer.BottomRight);
-    Frame(area.Shrunk(1), Edges[index].Inner.TopLeft, Edges[index].Inner.BottomRight);
+    if (index >= Edges.size() || area.IsEmpty()) return;
+    const auto& [outer, inner] = Edges[index];
+    const QRect inside =
+        PaintRing(grid_.ToDevice(Placed(area)), QColor(ColourOf(outer.TopLeft)), ColourOf(outer.BottomRight));
+    if (inner.TopLeft == None || inside.isEmpty()) return;
+    PaintRing(inside, QColor(ColourOf(inner.TopLeft)), ColourOf(inner.BottomRight));
 }
 
+/// The button keeps a line's distance from the edge of its cell and from the text, and its corners are blunt.
 void QtCanvas::PushButton(const Rect& area, ButtonLook look) {
-    if (area.IsEmpty()) return;
-    QColor face = palette_.color(QPalette::Button);
-    if (look == ButtonLook::Pressed) face = Mixed(face, Qt::black, 0.12);
-    if (look == ButtonLook::Hot) face = Mixed(face, palette_.color(QPalette::Highlight), 0.15);
-    painter_.fillRect(ToQRect(area), face);
-    Edge(area, look == ButtonLook::Pressed ? EdgeKind::SunkenOuter : EdgeKind::Raised);
+    const int line = grid_.Hairline();
+    const QRect body = grid_.ToDevice(Placed(area)).adjusted(line, line, -line, -line);
+    if (area.IsEmpty() || body.isEmpty()) return;
+    const ButtonColours colours = ColoursOfButton(palette_, look);
+    FillPixels(body.adjusted(1, 0, -1, 0), colours.Outline);
+    FillPixels(body.adjusted(0, 1, 0, -1), colours.Outline);
+    const QRect inside = body.adjusted(line, line, -line, -line);
+    if (inside.isEmpty()) return;
+    FillPixels(PaintRing(inside, colours.TopLeft, colours.BottomRight), colours.Face);
 }
 
 void QtCanvas::DrawGlyph(const Rect& area, Glyph glyph, ButtonLook look) {
-    const QPoint corner(area.Left + (area.Width() - GlyphSize) / 2,
-                        area.Top + (area.Height() - GlyphSize) / 2);
-    const QColor ink = palette_.color(QPalette::ButtonText);
-    painter_.save();
-    painter_.setClipRect(ToQRect(area), Qt::IntersectClip);
-    painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.translate(corner);
-    painter_.scale(0.1, 0.1);
-    painter_.fillPath(OutlineOf(glyph), look == ButtonLook::Pressed ? PressedInk(ink) : ink);
-    painter_.restore();
+    if (area.IsEmpty()) return;
+    DrawGlyphAt(painter_, grid_, grid_.ToDevice(Placed(area)), glyph, ColoursOfButton(palette_, look).Ink);
 }
 
-void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& style) {
-    if (area.IsEmpty() || text.empty() || DrawPrepared(area, text, style)) return;
-    QString shown = ToQString(text.substr(0, std::min<std::size_t>(text.size(), 4 * LongestText)));
-    shown.truncate(LongestText);
-    const int flags = style.WordWrap ? static_cast<int>(Qt::AlignTop | Qt::TextWordWrap)
-                                     : static_cast<int>(Qt::AlignVCenter | Qt::TextSingleLine);
-    painter_.save();
-    painter_.setClipRect(ToQRect(area), Qt::IntersectClip);
-    painter_.setFont(ToQFont(style.TextFont, font_));
-    painter_.setPen(ColourOf(style.Ink));
-    painter_.drawText(ToQRect(area), flags | static_cast<int>(HorizontalAlignment(style.Alignment)),
-                      style.WordWrap ? shown : OnOneLine(shown));
-    painter_.restore();
-}
-
-/// False when the text must be laid out for this once: its lines break, or it runs from the right.
-bool QtCanvas::DrawPrepared(const Rect& area, std::string_view text, const TextStyle& style) {
-    if (!texts_ || style.WordWrap || painter_.layoutDirection() == Qt::RightToLeft) return false;
-    const PreparedText* const prepared = texts_->Find(text, style.TextFont);
-    if (!prepared) return false;
-    const QRect room = ToQRect(area);
-    const QPointF corner = CornerOf(*prepared, room, style.Alignment);
-    const bool narrow = !QRectF(room).contains(prepared->Ink.translated(corner));
-    if (narrow) {
-        painter_.save();
-        painter_.setClipRect(room, Qt::IntersectClip);
-    }
-    painter_.setPen(ColourOf(style.Ink));
-    for (const QGlyphRun& glyphs : prepared->Glyphs)
-        painter_.drawGlyphRun(corner, glyphs);
-    if (narrow) painter_.restore();
-    return true;
+void QtCanvas::Text(const Rect& area, std::string_view text, const TextStyle& given) {
+    if (area.IsEmpty() || text.empty()) return;
+    TextStyle style = given;
+    if (mirrored_) style.Alignment = SwappedSides(given.Alignment);
+    lines_.Draw(ToQRect(Placed(area)), text, style, ColourOf(style.Ink));
 }
 
 void QtCanvas::Image(const Rect& area, const Picture& picture) {
@@ -208,7 +164,7 @@ void QtCanvas::Image(const Rect& area, const Picture& picture) {
     if (!drawable || area.IsEmpty()) return;
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
-    drawable->Draw(painter_, QRectF(ToQRect(area)), palette_);
+    drawable->Draw(painter_, grid_.ToPainter(grid_.ToDevice(Placed(area))), palette_);
     painter_.restore();
 }
 
@@ -222,7 +178,8 @@ void QtCanvas::PlacePicture(const Picture& picture, const PicturePlacement& plac
     const QSizeF size(placement.Width ? *placement.Width : part.width(),
                       placement.Height ? *placement.Height : part.height());
     if (part.isEmpty() || size.isEmpty()) return;
-    const QRectF place(QPointF(placement.Position.X, placement.Position.Y), size);
+    QRectF place(QPointF(placement.Position.X, placement.Position.Y), size);
+    if (mirrored_) place.moveLeft(*mirrored_ - place.right());
     painter_.save();
     painter_.setClipRect(place & QRectF(painter_.window()), Qt::IntersectClip);
     painter_.setCompositionMode(ModeOf(placement.Operation.value_or(0)));
@@ -235,7 +192,8 @@ void QtCanvas::PlacePicture(const Picture& picture, const PicturePlacement& plac
 
 void QtCanvas::SetClip(const Rect& area) {
     ClearClip();
-    painter_.setClipRect(ToQRect(area), clipped_ ? Qt::IntersectClip : Qt::ReplaceClip);
+    painter_.setClipRect(grid_.ToPainter(grid_.ToDevice(Placed(area))),
+                         clipped_ ? Qt::IntersectClip : Qt::ReplaceClip);
 }
 
 void QtCanvas::ClearClip() {

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "quillgrid/hosts/qt/PreparedTexts.h"
+#include "quillgrid/hosts/qt/DeviceGrid.h"
+#include "quillgrid/hosts/qt/TextDrawing.h"
 #include "quillgrid/platform/Canvas.h"
 
 #include <QColor>
-#include <QFont>
 #include <QPalette>
 #include <QRegion>
 
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -16,13 +17,17 @@ class QPainter;
 
 namespace quillgrid::qt {
 
-/// Draws with a painter in logical pixels; the painter's device makes them crisp at any density. A clip set
-/// here narrows the one that the painter came with.
+/// Draws with a painter in logical pixels, crisp at any density of the painter's device. A clip set here
+/// narrows the one that the painter came with.
 class QtCanvas : public Canvas {
 public:
     /// The painter must be active and outlive the canvas. `font` is the one that font descriptions refer to.
     /// `texts`, if any, keeps what was shaped for the next painting and outlives the canvas.
     QtCanvas(QPainter& painter, const QPalette& palette, const QFont& font, PreparedTexts* texts = nullptr);
+
+    /// What follows is drawn from right to left on a surface of this width; letters, images and glyphs are
+    /// not turned around.
+    void MirrorWithin(int width) { mirrored_ = width; }
 
     void Fill(const Rect& area, Colour colour) override;
     void Line(Point from, Point to, Colour colour) override;
@@ -37,13 +42,15 @@ public:
 
 private:
     const QColor& ColourOf(Colour colour);
-    void Frame(const Rect& area, Colour topLeft, Colour bottomRight);
-    bool DrawPrepared(const Rect& area, std::string_view text, const TextStyle& style);
+    Rect Placed(const Rect& area) const;
+    void FillPixels(const QRect& device, const QColor& colour);
+    QRect PaintRing(const QRect& device, const QColor& topLeft, const QColor& bottomRight);
 
     QPainter& painter_;
     QPalette palette_;
-    QFont font_;
-    PreparedTexts* texts_;
+    TextDrawing lines_;
+    DeviceGrid grid_;
+    std::optional<int> mirrored_;
     std::vector<std::pair<Colour, QColor>> colours_;
     QRegion given_; ///< the painter's own clip, empty when it has none
     bool clipped_;

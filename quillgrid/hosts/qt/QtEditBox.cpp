@@ -34,10 +34,12 @@ int UnitsOf(const QString& text, std::size_t characters) {
     return static_cast<int>(unit);
 }
 
-Qt::Alignment BoxAlignment(AlignmentConstants alignment) {
-    const Qt::Alignment side = alignment == qgalRightJustify ? Qt::AlignRight
-                               : alignment == qgalCenter     ? Qt::AlignHCenter
-                                                             : Qt::AlignLeft;
+/// Sides are those of the form, mirrored with it; the direction of the text has no say.
+Qt::Alignment BoxAlignment(AlignmentConstants alignment, bool mirrored) {
+    const bool right = (alignment == qgalRightJustify) != mirrored;
+    const Qt::Alignment side = alignment == qgalCenter ? Qt::AlignHCenter
+                               : right                 ? Qt::AlignRight
+                                                       : Qt::AlignLeft;
     return side | Qt::AlignVCenter | Qt::AlignAbsolute;
 }
 
@@ -96,7 +98,7 @@ void QtEditBox::Dress() {
     palette.setColor(QPalette::Text, ToQColor(look_.Ink, owner_.palette()));
     edit_.setPalette(palette);
     edit_.setFont(ToQFont(look_.TextFont, owner_.font()));
-    edit_.setAlignment(BoxAlignment(look_.Alignment));
+    edit_.setAlignment(BoxAlignment(look_.Alignment, owner_.isRightToLeft()));
     edit_.setReadOnly(look_.ReadOnly);
     ApplyMask();
 }
@@ -114,7 +116,7 @@ void QtEditBox::ApplyMask() {
 }
 
 void QtEditBox::Place(const Rect& area) {
-    edit_.setGeometry(ToQRect(area));
+    edit_.setGeometry(ToQRect(OnWidget(area, owner_)));
     edit_.setVisible(!area.IsEmpty());
     if (area.IsEmpty()) return;
     if (owner_.focusProxy() != &edit_) owner_.setFocusProxy(&edit_);

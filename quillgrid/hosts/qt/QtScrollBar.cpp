@@ -22,7 +22,7 @@ void QtScrollBar::SetValue(std::int32_t value) {
 }
 
 void QtScrollBar::Place(const Rect& area) {
-    bar_.setGeometry(ToQRect(area));
+    bar_.setGeometry(ToQRect(OnWidget(area, owner_)));
     bar_.show();
 }
 

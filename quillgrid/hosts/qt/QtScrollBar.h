@@ -3,14 +3,15 @@
 #include "quillgrid/platform/ScrollBar.h"
 
 class QScrollBar;
+class QWidget;
 
 namespace quillgrid::qt {
 
 /// The port over a scroll bar of Qt. What the control sets raises no signal of the bar.
 class QtScrollBar : public ScrollBar {
 public:
-    /// The bar must outlive this.
-    explicit QtScrollBar(QScrollBar& bar) : bar_(bar) {}
+    /// Both must outlive this. `owner` is the control's widget.
+    QtScrollBar(QScrollBar& bar, const QWidget& owner) : bar_(bar), owner_(owner) {}
 
     void SetRange(std::int32_t minimum, std::int32_t maximum, std::int32_t page) override;
     void SetValue(std::int32_t value) override;
@@ -21,6 +22,7 @@ public:
 
 private:
     QScrollBar& bar_;
+    const QWidget& owner_;
 };
 
 } // namespace quillgrid::qt

@@ -25,8 +25,9 @@ void QtSurface::Resize(Size size) {
 
 void QtSurface::Invalidate(const Rect& area) {
     if (area.IsEmpty()) return;
-    store_.MarkStale(ToQRect(area));
-    widget_.update(ToQRect(area));
+    const QRect shown = ToQRect(OnWidget(area, widget_));
+    store_.MarkStale(shown);
+    widget_.update(shown);
 }
 
 void QtSurface::SetPointer(MousePointer pointer) {

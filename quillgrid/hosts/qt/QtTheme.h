@@ -10,7 +10,7 @@ class QWidget;
 namespace quillgrid::qt {
 
 /// The desktop as one widget sees it: its palette, its style. The shades of the classic edges are derived
-/// from the window colour, since the light and dark roles of many dark palettes are left over from a light
+/// from the button colour, since the light and dark roles of many dark palettes are left over from a light
 /// one.
 class QtTheme : public Theme {
 public:
@@ -32,5 +32,7 @@ QColor ToQColor(Colour colour, const QPalette& palette);
 /// `share` of 1 gives `over`, 0 gives `under`.
 QColor Mixed(const QColor& under, const QColor& over, double share);
 bool IsDark(const QPalette& palette);
+/// Windows, fields and buttons have one colour: only lines tell them apart, which must be strong then.
+bool IsHighContrast(const QPalette& palette);
 
 } // namespace quillgrid::qt

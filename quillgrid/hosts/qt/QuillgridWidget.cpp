@@ -87,6 +87,10 @@ void QuillgridWidget::setTabPolicy(TabPolicy policy) {
                                                    : Control::LeaveAtEnds);
 }
 
+QRect QuillgridWidget::onWidget(const Rect& area) const {
+    return ToQRect(OnWidget(area, *this));
+}
+
 QSize QuillgridWidget::sizeHint() const {
     const int row = fontMetrics().height() + 8;
     return minimumSizeHint().expandedTo({UsualWidth, UsualRows * row});
@@ -116,17 +120,17 @@ void QuillgridWidget::mousePressEvent(QMouseEvent* event) {
     const QPointer<QuillgridWidget> self(this);
     host_->Keys.FinishComposing();
     if (!self) return;
-    host_->Grid.MouseDown(FromQPoint(event->position().toPoint()));
+    host_->Grid.MouseDown(OnControl(event->position(), *this));
 }
 
 void QuillgridWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     event->accept();
-    host_->Grid.MouseUp(FromQPoint(event->position().toPoint()));
+    host_->Grid.MouseUp(OnControl(event->position(), *this));
 }
 
 void QuillgridWidget::mouseMoveEvent(QMouseEvent* event) {
-    host_->Grid.MouseMove(FromQPoint(event->position().toPoint()), event->buttons() != Qt::NoButton);
+    host_->Grid.MouseMove(OnControl(event->position(), *this), event->buttons() != Qt::NoButton);
 }
 
 void QuillgridWidget::leaveEvent(QEvent*) {
@@ -139,12 +143,12 @@ void QuillgridWidget::dragEnterEvent(QDragEnterEvent* event) {
 
 void QuillgridWidget::dragMoveEvent(QDragMoveEvent* event) {
     event->setDropAction(Qt::CopyAction);
-    event->setAccepted(host_->Grid.MayDrop(FromQPoint(event->position().toPoint())));
+    event->setAccepted(host_->Grid.MayDrop(OnControl(event->position(), *this)));
 }
 
 void QuillgridWidget::dropEvent(QDropEvent* event) {
     const QMimeData& dropped = *event->mimeData();
-    const Point place = FromQPoint(event->position().toPoint());
+    const Point place = OnControl(event->position(), *this);
     std::vector<std::string> files;
     for (const QUrl& url : dropped.urls())
         files.push_back(FromQString(url.isLocalFile() ? url.toLocalFile() : url.toString()));

@@ -40,7 +40,9 @@ public:
     Q_ENUM(TabPolicy)
 
     /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own
-    /// `Language`.
+    /// `Language`. Where `locale()` writes from right to left the form is mirrored, as it is by
+    /// `setLayoutDirection`: labels at the right, values and the scroll bar at the left. The control itself
+    /// counts from the left all the same; `onWidget` says where its places are seen.
     explicit QuillgridWidget(QWidget* parent = nullptr, Mode mode = UserMode);
     ~QuillgridWidget() override;
 
@@ -70,6 +72,9 @@ public:
 
     TabPolicy tabPolicy() const { return tabPolicy_; }
     void setTabPolicy(TabPolicy policy);
+
+    /// A place of the control (`grid().ValueArea(cell)`) in the widget's coordinates.
+    QRect onWidget(const Rect& area) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

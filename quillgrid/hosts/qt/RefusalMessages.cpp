@@ -41,7 +41,7 @@ void RefusalMessages::Say(const Cell* cell, const QString& text) {
     cell_ = cell;
     const Cell* shown = VisibleCell(cell);
     if (!shown) return Dismiss();
-    bubble_.Say(text, ToQRect(grid_.ValueArea(*shown)), Duration);
+    bubble_.Say(text, PlaceOf(*shown), Duration);
     fresh_ = true;
     QTimer::singleShot(0, &bubble_, [this] { fresh_ = false; });
 }
@@ -62,9 +62,13 @@ void RefusalMessages::CurrentCellChanged() {
 void RefusalMessages::Follow() {
     if (bubble_.isHidden()) return;
     const Cell* cell = VisibleCell(cell_);
-    const QRect area = cell ? ToQRect(grid_.ValueArea(*cell)) : QRect();
+    const QRect area = cell ? PlaceOf(*cell) : QRect();
     if (area.isEmpty()) return Dismiss();
     bubble_.PointAt(area);
+}
+
+QRect RefusalMessages::PlaceOf(const Cell& cell) const {
+    return ToQRect(OnWidget(grid_.ValueArea(cell), owner_));
 }
 
 const Cell* RefusalMessages::VisibleCell(const void* wanted) const {

@@ -12,8 +12,9 @@ class ErrorBubble;
 /// Says at a cell why its text was refused and takes it back when the user goes on.
 class RefusalMessages {
 public:
-    /// Both must outlive this.
-    RefusalMessages(const Quillgrid& grid, ErrorBubble& bubble) : grid_(grid), bubble_(bubble) {}
+    /// All must outlive this. `owner` is the control's widget, in which the bubble stands.
+    RefusalMessages(const Quillgrid& grid, const QWidget& owner, ErrorBubble& bubble)
+        : grid_(grid), owner_(owner), bubble_(bubble) {}
 
     QuillgridWidget::MessageSource Source;
     int Duration = 8000; ///< milliseconds, 0 for ever
@@ -32,7 +33,10 @@ private:
     QString TextFor(const Cell& cell, ValidationErrConstants code) const;
     const Cell* VisibleCell(const void* wanted) const;
 
+    QRect PlaceOf(const Cell& cell) const;
+
     const Quillgrid& grid_;
+    const QWidget& owner_;
     ErrorBubble& bubble_;
     const void* cell_ = nullptr; ///< only compared: the cell may be gone
     bool fresh_ = false;

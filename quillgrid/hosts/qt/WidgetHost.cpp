@@ -21,13 +21,16 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
       Desktop(widget),
       Window(widget, [this](QPainter& painter, const QRect& area) { Paint(painter, area); }),
       Editor(*edit_, widget),
-      Bar(*bar_),
+      Bar(*bar_, widget),
       Container(widget, userMode),
       AmbientFont(FromQFont(widget.font())),
       Grid(Ports()),
-      Refusals(Grid, *bubble_),
+      Refusals(Grid, widget, *bubble_),
       Focus(widget),
-      Keys(Grid, *edit_) {
+      Keys(Grid, *edit_, widget) {
+    if (widget.locale().textDirection() == Qt::RightToLeft &&
+        !widget.testAttribute(Qt::WA_SetLayoutDirection))
+        widget.setLayoutDirection(Qt::RightToLeft);
     edit_->hide();
     bar_->hide();
     bar_->setFocusPolicy(Qt::NoFocus);
@@ -142,9 +145,14 @@ void WidgetHost::ConnectEvents() {
 
 void WidgetHost::ConnectCaptionBar() {
     Grid.DropDown.Listen(
-        [this](Cell& cell, float x, float y) { Q_EMIT widget_.dropDown(&cell, QPointF(x, y)); });
+        [this](Cell& cell, float x, float y) { Q_EMIT widget_.dropDown(&cell, CornerOnWidget(x, y)); });
     Grid.CloseBoxClick.Listen([this] { Q_EMIT widget_.closeBoxClick(); });
-    Grid.MenuClick.Listen([this](float x, float y) { Q_EMIT widget_.menuClick(QPointF(x, y)); });
+    Grid.MenuClick.Listen([this](float x, float y) { Q_EMIT widget_.menuClick(CornerOnWidget(x, y)); });
+}
+
+/// Where a list or a menu opens: its right corner in a form that runs from right to left.
+QPointF WidgetHost::CornerOnWidget(double x, double y) const {
+    return {widget_.isRightToLeft() ? widget_.width() - x : x, y};
 }
 
 void WidgetHost::GrabAccessKeys(const std::u32string& keys) {
@@ -172,8 +180,10 @@ void WidgetHost::PressAccessKey(int shortcut) {
 
 void WidgetHost::Paint(QPainter& painter, const QRect& area) {
     QtCanvas canvas(painter, widget_.palette(), widget_.font(), &texts_);
-    canvas.Fill(FromQRect(area), Window.BackColour());
-    Grid.Paint(canvas, FromQRect(area));
+    if (widget_.isRightToLeft()) canvas.MirrorWithin(widget_.width());
+    const Rect dirty = OnWidget(FromQRect(area), widget_); // as the control counts
+    canvas.Fill(dirty, Window.BackColour());
+    Grid.Paint(canvas, dirty);
 }
 
 void WidgetHost::FontChanged() {

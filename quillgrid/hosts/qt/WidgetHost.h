@@ -55,6 +55,7 @@ private:
     void ConnectEvents();
     void GrabAccessKeys(const std::u32string& keys);
     void ConnectCaptionBar();
+    QPointF CornerOnWidget(double x, double y) const;
     void TextChanged();
     void TellOfTyping();
     void FollowFont(const Font& before);
