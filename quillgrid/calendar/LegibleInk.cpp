@@ -8,9 +8,14 @@ namespace quillgrid {
 
 namespace {
 
-/// Ratios of luminances: what still passes as chosen, and what a changed ink must reach.
-constexpr double LowestContrast = 3.0;
-constexpr double WantedContrast = 4.5;
+/// Ratios of luminances: what still passes as chosen, and what a changed ink must reach. Thin letters that
+/// glow on a dark ground need more.
+struct Contrasts {
+    double Lowest;
+    double Wanted;
+};
+constexpr Contrasts OnLight{3.0, 4.5};
+constexpr Contrasts OnDark{4.5, 5.5};
 constexpr std::uint32_t Steps = 16;
 
 std::uint32_t Part(Colour colour, std::uint32_t shift) {
@@ -43,12 +48,14 @@ Colour Mixed(Colour from, std::uint32_t to, std::uint32_t step) {
 Colour LegibleInk(const Theme& desktop, Colour ink, Colour paper) {
     const Colour real = desktop.Resolve(ink);
     const double ground = Luminance(desktop.Resolve(paper));
-    if (Contrast(Luminance(real), ground) >= LowestContrast) return ink;
     const bool onLight = Contrast(0.0, ground) > Contrast(1.0, ground);
+    const Contrasts& limits = onLight ? OnLight : OnDark;
+    if (Contrast(Luminance(real), ground) >= limits.Lowest) return ink;
+    if (ink == ColourWindowText) return onLight ? Rgb(0, 0, 0) : Rgb(255, 255, 255);
     Colour found = real;
     for (std::uint32_t step = 1; step <= Steps; ++step) {
         found = Mixed(real, onLight ? 0 : 255, step);
-        if (Contrast(Luminance(found), ground) >= WantedContrast) break;
+        if (Contrast(Luminance(found), ground) >= limits.Wanted) break;
     }
     return found;
 }

@@ -6,6 +6,9 @@
 #include "quillgrid/calendar/DateSteps.h"
 #include "quillgrid/calendar/MonthViewBuilder.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace quillgrid {
 
 namespace {
@@ -61,6 +64,15 @@ CalendarNames QGCalendar::NamesNow() const {
 
 Size QGCalendar::NeededSize() const {
     return CalendarMeasures::Of(state_.Ports.Metrics, state_.Settings.Font, NamesNow()).Needed();
+}
+
+Size QGCalendar::RoomySize() const {
+    const CalendarNames names = NamesNow();
+    CalendarMeasures measures = CalendarMeasures::Of(state_.Ports.Metrics, state_.Settings.Font, names);
+    for (const std::string& name : names.ShortDays)
+        measures.DayWidth =
+            std::max(measures.DayWidth, state_.Ports.Metrics.TextWidth(state_.Settings.Font, name));
+    return measures.Needed();
 }
 
 void QGCalendar::Refresh() {

@@ -173,6 +173,9 @@ public:
     const MonthView& View() const { return state_.View; }
     /// The smallest surface that shows all of the pad, under its present font and locale.
     Size NeededSize() const;
+    /// As high, and wide enough for the longest day name: the pad's own width goes by the first one, and
+    /// others would be cut short in it.
+    Size RoomySize() const;
 
 private:
     const Locale& UserLocale() const override { return state_.Ports.UserLocale; }

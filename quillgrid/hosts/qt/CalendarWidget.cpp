@@ -63,8 +63,8 @@ void CalendarWidget::setCurrentDate(QDate date) {
 }
 
 QSize CalendarWidget::sizeHint() const {
-    const Size needed = pad().NeededSize();
-    return {needed.Width, needed.Height};
+    const Size size = pad().RoomySize();
+    return {size.Width, size.Height};
 }
 
 /// A font that the program has given to the calendar stays.
