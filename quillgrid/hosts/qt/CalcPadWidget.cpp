@@ -1,0 +1,10 @@
+#include "quillgrid/hosts/qt/CalcPadWidget.h"
+
+#include "quillgrid/hosts/qt/QtLocale.h"
+
+namespace quillgrid::qt {
+
+CalcPadWidget::CalcPadWidget(const QWidget& owner)
+    : PadWidget(owner), pad_({surface_, site_, metrics_, LocaleFromQt(owner.locale())}) {}
+
+} // namespace quillgrid::qt

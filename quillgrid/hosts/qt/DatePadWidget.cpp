@@ -1,0 +1,21 @@
+#include "quillgrid/hosts/qt/DatePadWidget.h"
+
+#include "quillgrid/hosts/qt/QtLocale.h"
+
+namespace quillgrid::qt {
+
+DatePadWidget::DatePadWidget(const QWidget& owner)
+    : PadWidget(owner),
+      menu_(*this),
+      pad_({surface_, site_, metrics_, clock_, theme_, menu_, LocaleFromQt(owner.locale())}) {
+    const Size size = pad_.RoomySize(); // later the pad makes itself as large as its font asks
+    resize(size.Width, size.Height);
+    pad_.Refresh();
+}
+
+void DatePadWidget::hideEvent(QHideEvent* event) {
+    PadWidget::hideEvent(event);
+    pad_.Hidden();
+}
+
+} // namespace quillgrid::qt

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "quillgrid/calendar/QGCalendar.h"
+#include "quillgrid/hosts/qt/PadMenu.h"
+#include "quillgrid/hosts/qt/PadWidget.h"
+
+namespace quillgrid::qt {
+
+/// The calendar that a cell drops down.
+class DatePadWidget : public PadWidget {
+public:
+    explicit DatePadWidget(const QWidget& owner);
+    QGCalendar& Pad() { return pad_; }
+
+protected:
+    void PaintPad(Canvas& canvas, const Rect& area) override { pad_.Paint(canvas, area); }
+    void Pressed(Point point, Qt::MouseButton button) override {
+        pad_.MouseDown(point, button == Qt::RightButton ? PadButton::Right : PadButton::Left);
+    }
+    void Moved(Point point, bool) override { pad_.MouseMove(point); }
+    void Released(Point point) override { pad_.MouseUp(point); }
+    void Left() override { pad_.MouseLeave(); }
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    PadMenu menu_;
+    QGCalendar pad_;
+};
+
+} // namespace quillgrid::qt
