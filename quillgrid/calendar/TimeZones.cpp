@@ -6,7 +6,7 @@
 
 namespace quillgrid {
 
-TimeZones::Pointer TimeZones::Add(TimeZoneArguments arguments) {
+TimeZones::Pointer TimeZones::Add(const TimeZoneArguments& arguments) {
     auto range = std::make_shared<TimeZone>();
     range->SetKey(arguments.Key);
     range->SetFirstDate(arguments.FirstDate);

@@ -35,7 +35,7 @@ public:
 
     /// Appends a range. Error 20093 for a key that is taken. A range with an empty key is found by its
     /// position alone.
-    Pointer Add(TimeZoneArguments arguments);
+    Pointer Add(const TimeZoneArguments& arguments);
     /// Error 20092 when there is none.
     Pointer Item(ItemKey which) const;
     std::int32_t Count() const { return static_cast<std::int32_t>(list_.Count()); }
