@@ -1,6 +1,7 @@
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
 
 #include "quillgrid/grid/Keys.h"
+#include "quillgrid/hosts/qt/AccessibleGrid.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
 #include "quillgrid/hosts/qt/WidgetHost.h"
@@ -30,6 +31,7 @@ constexpr int RowsAtLeast = 3;
 } // namespace
 
 QuillgridWidget::QuillgridWidget(QWidget* parent, Mode mode) : QWidget(parent) {
+    AccessibleGrid::Install();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAcceptDrops(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillgrid/grid/Quillgrid.h"
+#include "quillgrid/hosts/qt/AccessibilityNotices.h"
 #include "quillgrid/hosts/qt/ErrorBubble.h"
 #include "quillgrid/hosts/qt/FocusTracker.h"
 #include "quillgrid/hosts/qt/GridLineEdit.h"
@@ -87,6 +88,7 @@ public:
     FocusTracker Focus;
     KeyRouter Keys;
     WheelSteps Wheel;
+    std::unique_ptr<AccessibilityNotices> Notices;
 };
 
 } // namespace quillgrid::qt

@@ -1,0 +1,64 @@
+#pragma once
+
+#ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
+#include "quillgrid/grid/Quillgrid.h"
+#endif
+
+#include <QAccessible>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QWidget;
+
+namespace quillgrid::qt {
+
+class QuillgridWidget;
+
+/// Tells assistive programs what happens in the control, and its accessible objects what they cannot ask of
+/// it. It lives as long as the control can be asked; nothing is made while nobody listens.
+class AccessibilityNotices : public QObject {
+    Q_OBJECT
+
+public:
+    /// `bubble` shows why a text was refused. Becomes a child of the widget.
+    AccessibilityNotices(Quillgrid& grid, QuillgridWidget& widget, QWidget& bubble);
+
+    /// The control is going: from now on there is nothing to ask it.
+    void Stop() { setParent(nullptr); }
+
+    /// Those of a widget; null while it is made or going.
+    static AccessibilityNotices* Of(const QWidget& widget);
+    /// The row of a cell, 0 where it has none.
+    static std::int32_t RowOf(const Quillgrid& grid, const Cell& cell);
+
+    Quillgrid& Grid() const { return grid_; }
+    /// From now on what happens is told.
+    void SomebodyAsks() { asked_ = true; }
+    bool HasFocus() const;
+    /// Whether the control says at present that it refused the cell's text.
+    bool IsRefused(const Cell& cell) const;
+    /// Says that a cell must have a value.
+    QString RequiredText() const;
+    /// "Alt+N", or nothing.
+    QString AccessKeyOf(const Cell& cell) const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QAccessibleInterface* RowInterface(const Cell& cell) const;
+    void Refused(Cell& cell);
+    void TellRefused();
+    void TellValue(const Cell& cell);
+    void TellFocus(const Cell& cell);
+
+    Quillgrid& grid_;
+    QuillgridWidget& widget_;
+    QWidget& bubble_;
+    std::weak_ptr<Cell> refused_;
+    bool asked_ = false;
+};
+
+} // namespace quillgrid::qt
