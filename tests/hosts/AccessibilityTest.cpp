@@ -72,6 +72,9 @@ TEST_F(Accessibility, RowsSayWhatTheyAre) {
 
 TEST_F(Accessibility, StatesFollowTheCell) {
     EXPECT_TRUE(Row("name")->state().focused);
+    form->Edit()->setFocus();
+    form->Settle();
+    ASSERT_TRUE(form->Edit()->hasFocus());
     EXPECT_EQ(Control()->focusChild()->object(), form->Edit());
     EXPECT_TRUE(Row("password")->state().passwordEdit);
     EXPECT_TRUE(Row("paid")->state().checked);

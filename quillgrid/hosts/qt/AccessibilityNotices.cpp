@@ -66,16 +66,27 @@ QAccessibleInterface* AccessibilityNotices::RowInterface(const Cell& cell) const
     return grid && row > 0 ? grid->RowAt(row) : nullptr;
 }
 
+void AccessibilityNotices::TellChecked(QAccessibleInterface& row) {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent state(&row, changed);
+    QAccessible::updateAccessibility(&state);
+}
+
 void AccessibilityNotices::TellValue(const Cell& cell) {
     QAccessibleInterface* row = RowInterface(cell);
     if (!row) return;
-    QAccessibleValueChangeEvent value(row, row->text(QAccessible::Value));
-    QAccessible::updateAccessibility(&value);
-    if (row->role() != QAccessible::CheckBox) return;
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent state(row, changed);
-    QAccessible::updateAccessibility(&state);
+    switch (row->role()) { // each kind has the one event that Qt passes on
+    case QAccessible::CheckBox: return TellChecked(*row);
+    case QAccessible::EditableText: {
+        QAccessibleTextInsertEvent text(row, 0, row->text(QAccessible::Value));
+        return QAccessible::updateAccessibility(&text);
+    }
+    default: {
+        QAccessibleValueChangeEvent value(row, row->text(QAccessible::Value));
+        return QAccessible::updateAccessibility(&value);
+    }
+    }
 }
 
 // While the edit box is there Qt tells of its focus itself.

@@ -51,6 +51,7 @@ private:
     QAccessibleInterface* RowInterface(const Cell& cell) const;
     void Refused(Cell& cell);
     void TellRefused();
+    static void TellChecked(QAccessibleInterface& row);
     void TellValue(const Cell& cell);
     void TellFocus(const Cell& cell);
 

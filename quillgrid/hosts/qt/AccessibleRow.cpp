@@ -4,7 +4,9 @@
 #include "quillgrid/grid/Keys.h"
 #include "quillgrid/hosts/qt/AccessibilityNotices.h"
 #include "quillgrid/hosts/qt/Conversions.h"
+#include "quillgrid/hosts/qt/QtLocale.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
+#include "quillgrid/locale/Coercion.h"
 
 #include <algorithm>
 
@@ -156,7 +158,34 @@ void* AccessibleRow::interface_cast(QAccessible::InterfaceType type) {
     const QAccessible::Role kind = role();
     const bool reads = kind != QAccessible::Heading && kind != QAccessible::CheckBox;
     if (type == QAccessible::TextInterface && reads) return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::ValueInterface && kind == QAccessible::SpinBox)
+        return static_cast<QAccessibleValueInterface*>(this);
     return nullptr;
+}
+
+QVariant AccessibleRow::NumberOf(const Variant& value) const {
+    const auto number = ToDouble(value, LocaleFromQt(widget_->locale()));
+    return number ? QVariant(*number) : QVariant();
+}
+
+QVariant AccessibleRow::currentValue() const {
+    const auto cell = ShownCell();
+    return cell && IsDataVisible(*cell, Grid()->UserLevel()) ? NumberOf(cell->Value()) : QVariant();
+}
+
+QVariant AccessibleRow::maximumValue() const {
+    const auto cell = ShownCell();
+    return cell ? NumberOf(cell->Max()) : QVariant();
+}
+
+QVariant AccessibleRow::minimumValue() const {
+    const auto cell = ShownCell();
+    return cell ? NumberOf(cell->Min()) : QVariant();
+}
+
+QVariant AccessibleRow::minimumStepSize() const {
+    const auto cell = ShownCell();
+    return cell ? NumberOf(Variant(cell->Increment())) : QVariant();
 }
 
 QString AccessibleRow::text(int start, int end) const {

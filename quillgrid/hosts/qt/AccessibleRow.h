@@ -21,7 +21,8 @@ class QuillgridWidget;
 /// being invalid, and answers everything with nothing.
 class AccessibleRow : public QAccessibleInterface,
                       public QAccessibleActionInterface,
-                      public QAccessibleTextInterface {
+                      public QAccessibleTextInterface,
+                      public QAccessibleValueInterface {
 public:
     /// Without a cell it stands for a row that is not there.
     AccessibleRow(QuillgridWidget& widget, std::weak_ptr<Cell> cell);
@@ -49,6 +50,13 @@ public:
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString& name) const override;
 
+    // Of a cell with a spin button. It is set by stepping and typing, where the program's checks see it.
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override;
+    QVariant minimumValue() const override;
+    QVariant minimumStepSize() const override;
+
     // What is shown, to be read character by character; it is edited in the edit box.
     void selection(int, int* start, int* end) const override { *start = *end = 0; }
     int selectionCount() const override { return 0; }
@@ -70,6 +78,7 @@ private:
     /// Null once the row has gone.
     std::shared_ptr<Cell> ShownCell() const;
     QString Shown() const;
+    QVariant NumberOf(const Variant& value) const;
     QString Description(const Cell& cell) const;
     bool IsRefused(const Cell& cell) const;
     bool IsExpanded(const Cell& heading) const;

@@ -37,6 +37,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
     ConnectChildren();
     ConnectRefusals();
     ConnectEvents();
+    Notices = std::make_unique<AccessibilityNotices>(Grid, widget, *bubble_);
     ConnectCaptionBar();
     Grid.InitProperties();
     Container.Reported = [this](std::string_view key) {
@@ -46,6 +47,8 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
 
 // A late focus or text change of a child must find nobody to tell.
 WidgetHost::~WidgetHost() {
+    bubble_->removeEventFilter(Notices.get());
+    Notices->Stop();
     edit_->disconnect();
     Editor.TextSet = [] {};
     Focus.disconnect();
