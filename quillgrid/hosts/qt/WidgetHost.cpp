@@ -49,13 +49,13 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
 WidgetHost::~WidgetHost() {
     bubble_->removeEventFilter(Notices.get());
     Notices->Stop();
-    edit_->disconnect();
+    edit_->disconnect(edit_.get()); // but not what Qt connects: it keeps accessible objects by address
     Editor.TextSet = [] {};
     Focus.disconnect();
     Focus.Left = [] {};
     Focus.Entered = [] {};
     edit_->removeEventFilter(&Keys);
-    bar_->disconnect();
+    bar_->disconnect(bar_.get());
     Grid.Terminate(); // it hides the edit box, for which the tracker of the focus must still be there
 }
 
