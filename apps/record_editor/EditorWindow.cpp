@@ -4,6 +4,7 @@
 
 #include "quillgrid/grid/CellRules.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
+#include "quillgrid/hosts/qt/ReadyDropDowns.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -97,6 +98,7 @@ EditorWindow::EditorWindow(std::unique_ptr<Database> database, QList<TableName> 
       settings_(SettingsFor(locale())),
       question_(AskInABox) {
     widget_ = new quillgrid::qt::QuillgridWidget(this);
+    quillgrid::qt::openAddresses(*widget_);
     makeTools();
     makeTableChooser();
     makeLines();

@@ -104,6 +104,7 @@ void FieldBinding::DefineKind() {
     const auto check = RuleFor(rule_.Kind);
     if (check && !IsList() && !MeansTheSame(*check, cell_->ValidationRule()))
         cell_->SetValidationRule(*check);
+    if (rule_.Kind == ValueKind::Decimal && cell_->Button() == qgbtNone) cell_->SetButton(qgbtCalc);
     if (!rule_.Min.IsNull()) cell_->SetMin(rule_.Min);
     if (!rule_.Max.IsNull()) cell_->SetMax(rule_.Max);
     if (rule_.Kind == ValueKind::Text) cell_->SetMaxLength(LongestText());

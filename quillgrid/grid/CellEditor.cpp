@@ -30,15 +30,16 @@ bool IsPasteKey(std::int32_t keyCode, std::int32_t shift) {
 bool CellEditor::KeyDown(std::int32_t keyCode, std::int32_t shift) {
     const auto cell = state_.Current;
     if (!cell || !state_.UserMode || state_.Terminated) return false;
-    events_.KeyDown(*cell, keyCode, shift);
+    if (!state_.PadOpen) events_.KeyDown(*cell, keyCode, shift);
     if (!state_.IsCurrent(*cell) || keyCode == 0) return true;
+    if (pads_.TakeKeys()) return pads_.KeyDown(keyCode, shift);
     return HandleKeyDown(*cell, keyCode, shift);
 }
 
 bool CellEditor::HandleKeyDown(const Cell& cell, std::int32_t keyCode, std::int32_t shift) {
     if ((shift & ShiftAlt) != 0) {
         if (keyCode != quillgrid::KeyDown) return false;
-        DropDownCell();
+        dropDown_.Run();
         return true;
     }
     if (IsPasteKey(keyCode, shift)) return RefusePaste();
@@ -81,12 +82,12 @@ bool CellEditor::MoveToEnd(const Cell& cell, std::int32_t keyCode, std::int32_t 
 
 bool CellEditor::PressF4(const Cell& cell) {
     if (cell.Button() == qgbtNone && cell.ValidationRule() != qgvrBoolean) return false;
-    DropDownCell();
+    if (cell.Button() == qgbtNone) {
+        dropDown_.Toggle();
+    } else {
+        dropDown_.Run();
+    }
     return true;
-}
-
-void CellEditor::DropDownCell() {
-    stepper_.Toggle();
 }
 
 bool CellEditor::PasteAllowed() const {
@@ -109,6 +110,10 @@ bool CellEditor::KeyPress(char32_t& character) {
     if (!cell || !state_.UserMode || state_.Terminated) return false;
     character = events_.KeyPress(*cell, character);
     if (!state_.IsCurrent(*cell) || character == 0) return true;
+    if (pads_.TakeKeys()) {
+        pads_.KeyPress(character);
+        return true;
+    }
     return HandleCharacter(cell, character);
 }
 
@@ -143,7 +148,7 @@ void CellEditor::PressEscape(const std::shared_ptr<Cell>& cell) {
 
 bool CellEditor::TypeIntoList(const Cell& cell, char32_t character) {
     if (character == Space) {
-        DropDownCell();
+        dropDown_.Run();
     } else if (cell.Style() == qgcsList) {
         stepper_.SelectByTyping(character);
     } else {
@@ -171,7 +176,7 @@ char32_t CellEditor::InCaseOf(const Cell& cell, char32_t character) const {
 
 bool CellEditor::PressSpace(const Cell& cell) {
     if (cell.Template() != qgctEuro && !IsAllSelected()) return false;
-    if (cell.Button() != qgbtNone) DropDownCell();
+    if (cell.Button() != qgbtNone) dropDown_.Run();
     return true;
 }
 
@@ -204,8 +209,10 @@ bool CellEditor::IsAllSelected() const {
 void CellEditor::KeyUp(std::int32_t keyCode, std::int32_t shift) {
     const auto cell = state_.Current;
     if (!cell || !state_.UserMode || state_.Terminated) return;
-    events_.KeyUp(*cell, keyCode, shift);
-    if (state_.IsCurrent(*cell) && MayComplete(*cell, keyCode, shift)) Complete(*cell);
+    if (!state_.PadOpen) events_.KeyUp(*cell, keyCode, shift);
+    if (!state_.IsCurrent(*cell)) return;
+    if (pads_.TakeKeys()) return pads_.KeyUp(keyCode, shift);
+    if (MayComplete(*cell, keyCode, shift)) Complete(*cell);
 }
 
 bool CellEditor::MayComplete(const Cell& cell, std::int32_t keyCode, std::int32_t shift) const {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "quillgrid/grid/CellCommit.h"
+#include "quillgrid/grid/CellDropDown.h"
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/GroupFolding.h"
 #include "quillgrid/grid/Navigator.h"
+#include "quillgrid/grid/PadKeys.h"
 #include "quillgrid/grid/ValueStepper.h"
 
 namespace quillgrid {
@@ -15,16 +17,27 @@ namespace quillgrid {
 /// to the edit box.
 class CellEditor {
 public:
-    CellEditor(GridState& state, EditSeat& seat, CellCommit& commit, Navigator& navigator,
-               ValueStepper& stepper, GridRefresh& refresh, GroupFolding& folding, GridEvents& events,
+    struct Partners {
+        CellCommit& Commit;
+        class Navigator& Navigator;
+        ValueStepper& Stepper;
+        GridRefresh& Refresh;
+        GroupFolding& Folding;
+        PadKeys& Pads;
+        CellDropDown& DropDown;
+    };
+
+    CellEditor(GridState& state, EditSeat& seat, const Partners& partners, GridEvents& events,
                const Locale& locale)
         : state_(state),
           seat_(seat),
-          commit_(commit),
-          navigator_(navigator),
-          stepper_(stepper),
-          refresh_(refresh),
-          folding_(folding),
+          commit_(partners.Commit),
+          navigator_(partners.Navigator),
+          stepper_(partners.Stepper),
+          refresh_(partners.Refresh),
+          folding_(partners.Folding),
+          pads_(partners.Pads),
+          dropDown_(partners.DropDown),
           events_(events),
           locale_(locale) {}
 
@@ -32,8 +45,6 @@ public:
     bool KeyDown(std::int32_t keyCode, std::int32_t shift);
     bool KeyPress(char32_t& character);
     void KeyUp(std::int32_t keyCode, std::int32_t shift);
-    /// What the cell's button does.
-    void DropDownCell();
     /// Foreign text may go only into free text that the user may change.
     bool PasteAllowed() const;
 
@@ -66,6 +77,8 @@ private:
     ValueStepper& stepper_;
     GridRefresh& refresh_;
     GroupFolding& folding_;
+    PadKeys& pads_;
+    CellDropDown& dropDown_;
     GridEvents& events_;
     const Locale& locale_;
 };

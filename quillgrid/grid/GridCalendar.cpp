@@ -26,6 +26,27 @@ void GridCalendar::Synchronise() {
                            .AutoHolidays = settings.AutoHolidays});
 }
 
+void GridCalendar::ShareWith(QGCalendar& pad, const Cell& cell) {
+    const GridSettings& settings = state_.Settings;
+    const CalendarSettings& mine = calendar_.Settings();
+    WorkCalendar& theirs = pad.Calendar();
+    CalendarSettings& their = theirs.Settings();
+    their.FirstDayOfWeek = settings.FirstDayOfWeek;
+    their.FirstWeekOfYear = settings.FirstWeekOfYear;
+    their.ConfigGermany = mine.ConfigGermany;
+    their.ConfigAustria = mine.ConfigAustria;
+    their.ConfigSwitzerland = mine.ConfigSwitzerland;
+    their.ConfigEurope = mine.ConfigEurope;
+    theirs.SetHolidays(calendar_.Holidays());
+    theirs.SetUserDate1(calendar_.UserDate1());
+    theirs.SetUserDate2(calendar_.UserDate2());
+    theirs.SetUserDate3(calendar_.UserDate3());
+    const DayFlags allow{cell.AllowHoliday(), cell.AllowSaturday(), cell.AllowSunday()};
+    theirs.Synchronise({.Allow = &allow,
+                        .Work = {settings.WorkHoliday, settings.WorkSaturday, settings.WorkSunday},
+                        .AutoHolidays = settings.AutoHolidays});
+}
+
 bool GridCalendar::IsWorkDay(DateTime date) {
     Synchronise();
     return calendar_.IsWorkDay(date);

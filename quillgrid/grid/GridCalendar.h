@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quillgrid/calendar/WorkCalendar.h"
+#include "quillgrid/calendar/QGCalendar.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridState.h"
 
@@ -23,6 +23,8 @@ public:
     std::string Dayname(DateTime date);
     void SetCurrentDate(DateTime date);
     WorkCalendar& Calendar() { return calendar_; }
+    /// Gives a pad the rules, flags and days of this calendar, for a cell.
+    void ShareWith(QGCalendar& pad, const Cell& cell);
 
 private:
     /// Flags and preset anew before each question, so that rules of the host last until then.

@@ -7,8 +7,17 @@
 
 namespace quillgrid {
 
+namespace {
+
+GridPorts WithCurrencies(GridPorts ports, CurrencyConverter& ownCurrencies) {
+    if (!ports.Currencies) ports.Currencies = &ownCurrencies;
+    return ports;
+}
+
+} // namespace
+
 GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
-    : ports_(ports),
+    : ports_(WithCurrencies(ports, euro_)),
       Cells(this),
       Groups(this, Cells),
       ImageList(ports_.Images),
@@ -19,19 +28,28 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       View(State, ports_.Bar, Repaint),
       Seat(State, ports_.Editor, ports_.Window, ports_.Images),
       Commit(State, Seat, Events, Repaint, ports_.UserLocale, ports_.Time),
-      Selector(State, Commit, Seat, View, Events, Repaint),
+      Pads(State, ports_.Pads),
+      Selector(State, Commit, Seat, View, Pads, Events, Repaint),
       Keys(State, Selector, ports_.Container),
       Navigator(State, Commit, Selector, View, Seat, Events),
       Stepper(State, Commit, Seat, Events, ports_.UserLocale),
-      Refresher(State, ports_, Cells, Groups, Samples, Keys, Commit, Seat, View, Repaint),
+      Refresher(State, ports_, Cells, Groups, Samples, Keys, Commit, Seat, Pads, View, Repaint),
       Folding(State, Groups, Refresher),
       Spin(State, Stepper, ports_.Time),
       Setter(State, ports_, Cells, Samples, Dates, Refresher, Selector, View),
       Sheets(State, Setter, ports_.UserLocale),
       Lifecycle(State, ports_, Samples, Dates, Refresher, Setter),
-      Editor(State, Seat, Commit, Navigator, Stepper, Refresher, Folding, Events, ports_.UserLocale),
-      Mouse(State, {Selector, Editor, Spin, Folding, Events, Repaint}, ports_.Window, ports_.Container,
-            ports_.Images),
+      Results(State, Pads, Seat, Events, Repaint),
+      Listpad(Results, ports_),
+      DatePad(Results, Cells, Dates, ports_.UserLocale, ports_.Time),
+      CalcPad(Results, ports_),
+      PadKeys(Pads, Listpad, DatePad),
+      DropDown(State, {Pads, Results, Listpad, DatePad, CalcPad, Commit, Stepper, Selector, Events, Repaint},
+               ports_.Container, ports_.Time),
+      Editor(State, Seat, {Commit, Navigator, Stepper, Refresher, Folding, PadKeys, DropDown}, Events,
+             ports_.UserLocale),
+      Mouse(State, {Selector, DropDown, Pads, Spin, Folding, Events, Repaint}, ports_.Window,
+            ports_.Container, ports_.Images),
       Drops(State, Selector, Commit, Stepper, Seat),
       Records(State, Cells, Seat, Repaint),
       Painter(State, Groups, ports_.Images) {
@@ -43,6 +61,7 @@ void GridCore::Terminate() {
     Events.Terminate();
     State.CommitBusy = true; // a focus that moves now takes nothing over
     Spin.Stop();
+    Pads.Terminate();
     Seat.Hide();
     State.Terminated = true;
     ImageList.SetSource(nullptr);
@@ -68,6 +87,7 @@ void GridCore::FocusGained() {
 
 void GridCore::FocusLost() {
     if (State.Terminated || !State.UserMode) return;
+    Pads.Hide();
     Spin.Stop();
     const FlagGuard leaving(State.LeavingFocus);
     const CommitResult result = Commit.Commit(); // nothing where a handler of a commit sent the focus away
@@ -110,6 +130,7 @@ void GridCore::CellRemoved(Cell& cell) {
     State.ResortNeeded = true;
     if (State.Working == &cell) State.Working = nullptr;
     Spin.Forget(cell);
+    if (State.Current.get() == &cell) Pads.Hide();
     const std::int32_t row = State.RowOf(cell);
     if (row == 0) return;
     const bool wasCurrent = State.Current.get() == &cell;
@@ -129,6 +150,7 @@ void GridCore::CellsCleared() {
     State.ResortNeeded = true;
     State.Working = nullptr;
     Spin.Stop();
+    Pads.Hide();
     State.Current.reset();
     State.CurrentRow = 0;
     State.FirstVisible = 1;

@@ -5,8 +5,12 @@
 #include "quillgrid/cells/Columns.h"
 #include "quillgrid/cells/Groups.h"
 #include "quillgrid/cells/ImageList.h"
+#include "quillgrid/euro/QGEuro.h"
+#include "quillgrid/grid/CalcDropDown.h"
 #include "quillgrid/grid/CellCommit.h"
+#include "quillgrid/grid/CellDropDown.h"
 #include "quillgrid/grid/CellEditor.h"
+#include "quillgrid/grid/DateDropDown.h"
 #include "quillgrid/grid/DropTarget.h"
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridCalendar.h"
@@ -16,8 +20,12 @@
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
+#include "quillgrid/grid/ListDropDown.h"
 #include "quillgrid/grid/MouseController.h"
 #include "quillgrid/grid/Navigator.h"
+#include "quillgrid/grid/OpenPads.h"
+#include "quillgrid/grid/PadKeys.h"
+#include "quillgrid/grid/PadResults.h"
 #include "quillgrid/grid/PropertySetter.h"
 #include "quillgrid/grid/PropertySheets.h"
 #include "quillgrid/grid/RecordBinding.h"
@@ -50,6 +58,7 @@ public:
     std::shared_ptr<Properties> GridSheet() { return Sheets.GridSheet(); }
 
 private:
+    QGEuro euro_;
     const GridPorts ports_;
 
 public:
@@ -68,6 +77,7 @@ public:
     Viewport View;
     EditSeat Seat;
     CellCommit Commit;
+    OpenPads Pads;
     RowSelector Selector;
     AccessKeys Keys;
     class Navigator Navigator;
@@ -78,6 +88,12 @@ public:
     PropertySetter Setter;
     PropertySheets Sheets;
     GridLifecycle Lifecycle;
+    PadResults Results;
+    ListDropDown Listpad;
+    DateDropDown DatePad;
+    CalcDropDown CalcPad;
+    class PadKeys PadKeys;
+    CellDropDown DropDown;
     CellEditor Editor;
     MouseController Mouse;
     DropTarget Drops;

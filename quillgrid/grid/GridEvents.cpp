@@ -75,6 +75,10 @@ void GridEvents::MenuClick(float x, float y) {
     if (events_) events_->MenuClick.Raise(x, y);
 }
 
+void GridEvents::DropDown(Cell& cell, float x, float y) {
+    if (events_) events_->DropDown.Raise(cell, x, y);
+}
+
 void GridEvents::ImageClick(Cell& cell) {
     if (events_) events_->ImageClick.Raise(cell);
 }

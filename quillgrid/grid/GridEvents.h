@@ -32,6 +32,8 @@ public:
     void KeyUp(Cell& cell, std::int32_t& keyCode, std::int32_t& shift);
     void LeaveFocus(Cell& cell);
     void ImageClick(Cell& cell);
+    /// In units of the container.
+    void DropDown(Cell& cell, float x, float y);
     void CloseBoxClick();
     void MenuClick(float x, float y);
 

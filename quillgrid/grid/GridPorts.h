@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/grid/PadFactory.h"
 #include "quillgrid/locale/Locale.h"
 #include "quillgrid/platform/Clock.h"
 #include "quillgrid/platform/CurrencyConverter.h"
@@ -24,7 +25,8 @@ struct GridPorts {
     const Theme& Desktop;
     Locale UserLocale;
     ImageSource* Images = nullptr;
-    CurrencyConverter* Currencies = nullptr;
+    CurrencyConverter* Currencies = nullptr; ///< null: the euro and what it replaced
+    PadFactory* Pads = nullptr;              ///< null: the host is asked by DropDown instead
 };
 
 } // namespace quillgrid

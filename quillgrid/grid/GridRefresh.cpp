@@ -62,6 +62,7 @@ void GridRefresh::LayOut() {
     view_.Reveal(state_.CurrentRow);
     seat_.Seat();
     seat_.KeepFocus();
+    pads_.Follow();
     repaint_.All();
 }
 
@@ -90,6 +91,7 @@ LayoutMeasures GridRefresh::Measure() {
 
 void GridRefresh::Resize() {
     if (state_.ResizeBusy || state_.Terminated) return;
+    pads_.Hide();
     const Size size = ports_.Window.InnerSize();
     if (size == state_.RecordedSize) return;
     state_.RecordedSize = size;

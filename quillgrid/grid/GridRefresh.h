@@ -8,6 +8,7 @@
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridPorts.h"
 #include "quillgrid/grid/GridState.h"
+#include "quillgrid/grid/OpenPads.h"
 #include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/SampleCells.h"
 #include "quillgrid/grid/Viewport.h"
@@ -18,8 +19,8 @@ namespace quillgrid {
 class GridRefresh {
 public:
     GridRefresh(GridState& state, const GridPorts& ports, const Cells& cells, const Groups& groups,
-                SampleCells& samples, AccessKeys& keys, CellCommit& commit, EditSeat& seat, Viewport& view,
-                RepaintRequests& repaint)
+                SampleCells& samples, AccessKeys& keys, CellCommit& commit, EditSeat& seat, OpenPads& pads,
+                Viewport& view, RepaintRequests& repaint)
         : state_(state),
           ports_(ports),
           cells_(cells),
@@ -29,6 +30,7 @@ public:
           widths_(ports.Metrics),
           commit_(commit),
           seat_(seat),
+          pads_(pads),
           view_(view),
           repaint_(repaint) {}
 
@@ -55,6 +57,7 @@ private:
     CaptionWidths widths_;
     CellCommit& commit_;
     EditSeat& seat_;
+    OpenPads& pads_;
     Viewport& view_;
     RepaintRequests& repaint_;
 };

@@ -51,6 +51,7 @@ struct GridState {
         false;             ///< the focus is just going: what the commit changes still counts as the user's
     bool Dropping = false; ///< something is dropped on a cell: that counts as the user's too
     bool ResizeBusy = false;
+    bool PadOpen = false;    ///< a pad shows, or the host has dropped something down
     bool Left = false;       ///< the focus has gone: the edit box stays hidden until it is back
     bool Terminated = false; ///< the control is gone; only the calls under way still see this state
 

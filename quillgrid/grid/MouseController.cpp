@@ -27,10 +27,12 @@ void MouseController::Press(Point position) {
     if (state_.Terminated || !state_.UserMode) return;
     with_.Spin.Stop(); // the release of the press before may have been lost
     const Hit hit = HitAt(position);
+    const bool closing = IsOnButtonOfOpenPad(hit);
+    with_.Pads.Hide();
     switch (hit.Place) {
     case HitPlace::Label:
     case HitPlace::Value:
-    case HitPlace::Strip: return PressRow(hit, position);
+    case HitPlace::Strip: return PressRow(hit, position, closing);
     case HitPlace::GroupMargin: return ToggleGroup(hit.Row);
     case HitPlace::CloseBox:
     case HitPlace::MenuBox: return SetPressed(PartAt(hit));
@@ -38,18 +40,25 @@ void MouseController::Press(Point position) {
     }
 }
 
-void MouseController::PressRow(const Hit& hit, Point position) {
+bool MouseController::IsOnButtonOfOpenPad(const Hit& hit) const {
+    const auto cell = state_.RowCell(hit.Row);
+    return cell && PartAt(hit).Place == MousePart::Kind::CellButton && with_.Pads.BelongsTo(*cell);
+}
+
+/// `closing`: the press was on the button whose pad it has just closed, and opens nothing again.
+void MouseController::PressRow(const Hit& hit, Point position, bool closing) {
     const auto cell = state_.RowCell(hit.Row);
     const bool onButton = PartAt(hit).Place == MousePart::Kind::CellButton;
     const bool onImage = !onButton && hit.Place != HitPlace::Label && IsOnImage(*cell, hit.Row, position);
     if (!with_.Selector.Select(hit.Row) || !state_.IsCurrent(*cell)) return;
+    if (closing) return;
     if (onButton) return PressButton(cell, position);
     if (onImage) PressImage(cell);
 }
 
 void MouseController::PressImage(const std::shared_ptr<Cell>& cell) {
     if (cell->ValidationRule() == qgvrBoolean) {
-        with_.Editor.DropDownCell();
+        with_.DropDown.Toggle();
     } else {
         with_.Events.ImageClick(*cell);
     }
@@ -61,7 +70,7 @@ void MouseController::PressButton(const std::shared_ptr<Cell>& cell, Point posit
     if (cell->Button() == qgbtSpin) {
         with_.Spin.Start(position.Y <= area.Top + area.Height() / 2);
     } else {
-        with_.Editor.DropDownCell();
+        with_.DropDown.Run();
     }
 }
 
@@ -142,7 +151,7 @@ bool MouseController::IsOnImage(const Cell& cell, std::int32_t row, Point positi
 
 void MouseController::DoubleClick() {
     if (!state_.Terminated && state_.UserMode && state_.Current && state_.Current->Button() != qgbtNone) {
-        with_.Editor.DropDownCell();
+        with_.DropDown.Run();
     }
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "quillgrid/grid/CellEditor.h"
+#include "quillgrid/grid/CellDropDown.h"
 #include "quillgrid/grid/GridEvents.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/GroupFolding.h"
 #include "quillgrid/grid/HitTest.h"
+#include "quillgrid/grid/OpenPads.h"
 #include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/RowSelector.h"
 #include "quillgrid/grid/SpinRepeater.h"
@@ -19,7 +20,8 @@ class MouseController {
 public:
     struct Partners {
         RowSelector& Selector;
-        CellEditor& Editor;
+        CellDropDown& DropDown;
+        OpenPads& Pads;
         SpinRepeater& Spin;
         GroupFolding& Folding;
         GridEvents& Events;
@@ -55,7 +57,7 @@ private:
     };
 
     Hit HitAt(Point position) const;
-    void PressRow(const Hit& hit, Point position);
+    void PressRow(const Hit& hit, Point position, bool closing);
     void PressImage(const std::shared_ptr<Cell>& cell);
     void PressButton(const std::shared_ptr<Cell>& cell, Point position);
     void ToggleGroup(std::int32_t row);
@@ -64,6 +66,7 @@ private:
     void RepaintPart(const MousePart& part);
     MousePart PartAt(const Hit& hit) const;
     bool IsOnImage(const Cell& cell, std::int32_t row, Point position) const;
+    bool IsOnButtonOfOpenPad(const Hit& hit) const;
     bool HasGroup(std::int32_t row) const;
 
     GridState& state_;

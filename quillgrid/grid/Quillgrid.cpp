@@ -254,8 +254,18 @@ void Quillgrid::MouseWheel(std::int32_t rows) {
         std::clamp<std::int64_t>(first, 1, std::numeric_limits<std::int32_t>::max())));
 }
 
+void Quillgrid::HidePads() {
+    const Core core = core_;
+    if (!core->State.Terminated) core->Pads.Hide();
+}
+
+bool Quillgrid::IsPadShown() const {
+    return core_->Pads.Shown().has_value();
+}
+
 void Quillgrid::ScrollTo(std::int32_t firstVisibleRow) {
     const Core core = core_;
+    if (firstVisibleRow != FirstVisibleRow()) HidePads();
     core->Navigator.ScrollTo(firstVisibleRow);
 }
 

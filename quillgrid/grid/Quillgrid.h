@@ -59,7 +59,7 @@ public:
     class Groups& Groups();
     /// The host's images.
     class ImageList& ImageList();
-    /// The host's currencies, null when it has none.
+    /// The host's currencies; those of a host that has none are the euro and what it replaced.
     CurrencyConverter* Euro() const;
     /// The control's property sheet: `Properties().Item("Caption")->Value()`. Writing a value that cannot be
     /// converted is error 20099 ("Property:Value Property Let").
@@ -308,6 +308,11 @@ public:
     bool DropText(Point position, std::string_view text);
     /// The same with the first of the file names.
     bool DropFiles(Point position, const std::vector<std::string>& names);
+    /// Closes what is dropped down. A host does so when the window moves, goes or is no longer the active
+    /// one, and when the user presses a button somewhere else.
+    void HidePads();
+    /// Whether keys go to a pad now: a host keeps its own shortcuts back then.
+    bool IsPadShown() const;
     /// Scrolls by rows (positive: down); never edits.
     void MouseWheel(std::int32_t rows);
     /// The scroll bar's value, 1-based; the bar is set back when a handler keeps the user in the cell.

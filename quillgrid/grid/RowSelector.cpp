@@ -18,7 +18,10 @@ bool RowSelector::Select(std::int32_t row) {
 bool RowSelector::MakeCurrent(std::int32_t row) {
     const auto cell = state_.RowCell(row);
     const bool another = cell != state_.Current;
-    if (another) repaint_.Row(state_.CurrentRow);
+    if (another) {
+        pads_.Hide(); // no pad outlives its cell
+        repaint_.Row(state_.CurrentRow);
+    }
     view_.Reveal(row);
     state_.Current = cell;
     state_.CurrentRow = row;

@@ -106,6 +106,10 @@ class Editor:
     def title(self):
         return xdotool("getwindowname", self.window)
 
+    def windows(self):
+        """How many are to be seen."""
+        return len(xdotool("search", "--onlyvisible", "--pid", self.process.pid).split())
+
     def is_modified(self):
         return self.title().endswith("*")
 

@@ -5,14 +5,15 @@ import sys
 import tempfile
 import traceback
 
-from desktop import Desktop, Editor, wait_for
+from desktop import Desktop, Editor, wait_for, xdotool
 from expectations import expect, expect_changes
 from handling import HANDLING, PREPARATIONS, wait_for_form
 
 # Rows of the form: the columns of the table under the headings of their groups.
-NAME, EMPLOYEES, FOUNDED, OPENS = 1, 14, 20, 21
+NAME, LEGAL_FORM, COUNTRY, EMPLOYEES, CAPITAL, FOUNDED, OPENS, CUSTOMER = 1, 2, 3, 14, 15, 20, 21, 24
 # Pixels in the window, with the font that the packages of this run bring.
 FIRST_ROW, ROW_HEIGHT = 59, 19
+LABEL, IMAGE, VALUE, BUTTON = 60, 158, 300, 540
 
 
 def typing_is_saved(editor):
@@ -160,10 +161,98 @@ def click_chooses_the_cell(editor):
     expect_changes(before, editor.record(1), name="Clicked", opens_at="09:00:00")
 
 
+def open_pad(editor, row):
+    editor.go_to(row)
+    editor.press("F4")
+    wait_for("a pad", lambda: editor.windows() == 2)
+
+
+def wait_for_closed_pads(editor):
+    wait_for("the end of the pads", lambda: editor.windows() == 1)
+
+
+def save_and_expect(editor, before, **wanted):
+    wait_for_closed_pads(editor)
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    expect_changes(before, editor.record(1), **wanted)
+
+
+def list_entry_is_picked_by_typing(editor):
+    before = editor.record(1)
+    open_pad(editor, COUNTRY)
+    editor.type("austri")
+    editor.press("Return")
+    save_and_expect(editor, before, country="AT")
+
+
+def list_entry_is_picked_by_mouse(editor):
+    before = editor.record(1)
+    editor.click(BUTTON, FIRST_ROW + LEGAL_FORM * ROW_HEIGHT)
+    wait_for("a pad", lambda: editor.windows() == 2)
+    editor.click(VALUE, FIRST_ROW + (LEGAL_FORM + 5) * ROW_HEIGHT)  # the fifth entry
+    save_and_expect(editor, before, legal_form="KG")
+
+
+def date_is_picked_across_a_holiday(editor):
+    before = editor.record(1)
+    editor.go_to(FOUNDED)
+    editor.type("30.4.2019")
+    editor.press("F4")
+    wait_for("a pad", lambda: editor.windows() == 2)
+    editor.press("Right", "Right", "Return")
+    save_and_expect(editor, before, founded_on="2019-05-02")
+
+
+def amount_is_calculated(editor):
+    before = editor.record(1)
+    open_pad(editor, CAPITAL)
+    editor.type("c116")
+    editor.press("F7", "Return")
+    wait_for_closed_pads(editor)
+    wait_for("the mark of a change", editor.is_modified)
+    editor.save()
+    after = editor.record(1)
+    expect("share capital", float(after.pop("share_capital")), 100.0)
+    before.pop("share_capital")
+    expect_changes(before, after)
+
+
+def truth_is_turned_over_by_key_and_mouse(editor):
+    before = editor.record(1)
+    editor.go_to(CUSTOMER)
+    editor.press("space")
+    save_and_expect(editor, before, is_customer=0)
+    editor.click(IMAGE, FIRST_ROW + CUSTOMER * ROW_HEIGHT)
+    save_and_expect(editor, before)
+
+
+def pads_close_and_leave_nothing_behind(editor):
+    before = editor.record(1)
+    for row in (LEGAL_FORM, CAPITAL, FOUNDED):
+        for close in (lambda: editor.press("F4"), lambda: editor.click(LABEL, FIRST_ROW),
+                      lambda: editor.click(VALUE, FIRST_ROW + row * ROW_HEIGHT),
+                      lambda: xdotool("windowsize", editor.window, 600, 700 + row),
+                      lambda: xdotool("windowmove", editor.window, 50 + row, 60)):
+            open_pad(editor, row)
+            close()
+            wait_for_closed_pads(editor)
+    for row in (LEGAL_FORM, FOUNDED):
+        open_pad(editor, row)
+        editor.press("Escape")
+        wait_for_closed_pads(editor)
+    open_pad(editor, FOUNDED)
+    editor.press("alt+F4")
+    expect("exit status", editor.wait_for_end(), 0)
+    expect("the database", editor.record(1), before)
+
+
 SCENARIOS = [typing_is_saved, first_composed_character_is_kept, short_entries_are_completed,
-             refused_input_keeps_the_cell_and_its_old_value, escape_undoes_the_typing, records_are_walked,
-             new_record_is_added, leaving_asks_about_changes,
-             typed_text_survives_closing, click_chooses_the_cell] + HANDLING
+             refused_input_keeps_the_cell_and_its_old_value,
+             escape_undoes_the_typing, records_are_walked, new_record_is_added, leaving_asks_about_changes,
+             typed_text_survives_closing, click_chooses_the_cell, list_entry_is_picked_by_typing,
+             list_entry_is_picked_by_mouse, date_is_picked_across_a_holiday, amount_is_calculated,
+             truth_is_turned_over_by_key_and_mouse, pads_close_and_leave_nothing_behind] + HANDLING
 
 
 def run(scenario, program, sample, pictures):

@@ -90,7 +90,11 @@ const NamedDeed Deeds[] = {
          if (host.Grid->Cell()) host.Grid->Cell()->Properties()->Clear();
      }},
     {"terminate", [](HeadlessHost& host) { host.Grid->Terminate(); }},
-    {"destroy", [](HeadlessHost& host) { host.Grid.reset(); }},
+    {"destroy",
+     [](HeadlessHost& host) {
+         host.Grid.reset();
+         host.Pads.reset();
+     }},
     {"throw", [](HeadlessHost&) { throw std::runtime_error("handler"); }},
 };
 
@@ -134,6 +138,10 @@ const NamedEvent Events[] = {
      [](Quillgrid& grid, std::function<void()> run) { grid.LeaveFocus.Listen([run](Cell&) { run(); }); }},
     {"ImageClick",
      [](Quillgrid& grid, std::function<void()> run) { grid.ImageClick.Listen([run](Cell&) { run(); }); }},
+    {"DropDown",
+     [](Quillgrid& grid, std::function<void()> run) {
+         grid.DropDown.Listen([run](Cell&, float, float) { run(); });
+     }},
 };
 
 void Fill(HeadlessHost& host) {
@@ -141,14 +149,26 @@ void Fill(HeadlessHost& host) {
         host.Images.Add(image);
     Quillgrid& grid = *host.Grid;
     grid.SetAllowWrap(false);
-    grid.Add({.Key = "date", .Value = Variant(DateTime{46000, 0}), .CellTemplate = qgctDate});
+    grid.Add({.Key = "date", .Value = Variant(DateTime{46000, 0}), .CellTemplate = qgctDate})
+        ->SetButton(qgbtClock);
     grid.Add({.Key = "flag", .Value = Variant(true), .CellTemplate = qgctboolean});
     grid.Add({.Key = "phone", .Value = Variant("1"), .CellTemplate = qgctPhone});
     const auto list = grid.Add({.Key = "list", .Value = Variant("a"), .CellTemplate = qgctlist});
     for (const char* text : {"a", "b"})
         list->Listitems().Add({.Text = text});
-    grid.Add({.Key = "count", .Value = Variant(5), .CellTemplate = qgctInteger});
+    grid.Add({.Key = "count", .Value = Variant(5), .CellTemplate = qgctInteger})->SetButton(qgbtCalc);
+    grid.Add({.Key = "file", .CellTemplate = qgctFile});
+    grid.Add({.Key = "euro", .Value = Variant(5), .CellTemplate = qgctEuro});
     grid.Refresh();
+}
+
+/// Goes to a cell that may be gone, and drops its pad down.
+void DropDown(HeadlessHost& host, const char* key) {
+    host.EnterControl();
+    if (!host.Grid) return;
+    if (const auto cell = host.Grid->Cells().Find(key)) cell->SetFocus();
+    if (host.Grid) host.Press(KeyF4);
+    host.Clock.Advance(200);
 }
 
 /// Every way in that raises events; each step may find the control gone.
@@ -173,6 +193,22 @@ void Use(HeadlessHost& host) {
         [&] { host.Press(quillgrid::KeyDown); },
         [&] { host.Grid->ScrollTo(3); },
         [&] { host.Type("4"); },
+        [&] { DropDown(host, "date"); },
+        [&] { host.Press(KeyRight); },
+        [&] { host.ClickDay(3); },
+        [&] { DropDown(host, "list"); },
+        [&] { host.Press(quillgrid::KeyUp); },
+        [&] { host.Press(KeyEscape); },
+        [&] { DropDown(host, "list"); },
+        [&] { host.ClickRow(1); },
+        [&] { DropDown(host, "count"); },
+        [&] { host.Type("+7="); },
+        [&] { host.ClickKey(15); },
+        [&] { DropDown(host, "euro"); },
+        [&] { host.Type("d"); },
+        [&] { host.Press(KeyEnter); },
+        [&] { host.Press(quillgrid::KeyDown); },
+        [&] { DropDown(host, "file"); },
         [&] { host.LeaveControl(); },
     };
     for (const auto& step : steps) {
@@ -273,6 +309,8 @@ void ExpectConsistent(HeadlessHost& host) {
     }
     for (const auto& cell : grid.Cells())
         EXPECT_EQ(cell->ErrorCode(), qgErrNone);
+    grid.HidePads();
+    EXPECT_EQ(host.Pads->ShownWindows(), 0);
     grid.Refresh();
     host.Paint();
     for (std::int32_t row = 1; row <= grid.RowCount(); ++row)

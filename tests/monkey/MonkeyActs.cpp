@@ -173,7 +173,6 @@ void PressAct(MonkeyForm& form, const Step& step) {
     if (!form.Grid()) return;
     host.Clock.Held.Left = step.B % 4 != 3;
     form.Grid()->MouseDown(Target(form, step.A));
-    form.NoteSpin();
 }
 
 void ReleaseAct(MonkeyForm& form, const Step& step) {
@@ -188,6 +187,32 @@ void MoveAct(MonkeyForm& form, const Step& step) {
 
 void DoubleClickAct(MonkeyForm& form, const Step& step) {
     form.Grid()->DoubleClick(AnyPoint(step.A, form.Host().Surface.Inner));
+}
+
+/// Drops something down for a cell, which may get another button for it.
+void DropDownAct(MonkeyForm& form, const Step& step) {
+    if (form.Host().Focus == FocusPlace::Outside) form.Host().EnterControl();
+    const auto cell = form.Grid() ? form.CellFor(step.A) : nullptr;
+    if (!cell) return;
+    if (step.B % 4 == 0) cell->SetButton(static_cast<ButtonStyleConstants>(step.C % 8));
+    cell->SetFocus();
+    if (form.Grid()) form.Grid()->KeyDown(KeyF4, ShiftNone);
+}
+
+/// The mouse on the pad that shows.
+void PadAct(MonkeyForm& form, const Step& step) {
+    headless::FakePads& pads = *form.Host().Pads;
+    const auto number = static_cast<std::int32_t>(step.A % 31) + 1;
+    if (pads.WindowOf(PadKind::List).IsShown()) {
+        if (step.B % 4 == 0) return pads.Listpad().MouseMove(pads.MiddleOfRow(number % 7), false);
+        form.Host().ClickRow(number % 7);
+    } else if (pads.WindowOf(PadKind::Date).IsShown()) {
+        if (step.B % 4 != 0) return form.Host().ClickDay(number);
+        form.Host().Clock.Held.Left = step.C % 2 == 0;
+        pads.DatePad().MouseDown(AnyPoint(step.C, {200, 200}));
+    } else if (pads.WindowOf(PadKind::Calc).IsShown()) {
+        form.Host().ClickKey(number % 24 + 1);
+    }
 }
 
 void WheelAct(MonkeyForm& form, const Step& step) {
@@ -578,6 +603,8 @@ const Deed Deeds[] = {
     {"release", 40, 2, ReleaseAct},
     {"move", 30, 1, MoveAct},
     {"double-click", 8, 1, DoubleClickAct},
+    {"drop-down", 60, 3, DropDownAct},
+    {"pad", 60, 3, PadAct},
     {"wheel", 20, 2, WheelAct},
     {"scroll", 14, 3, ScrollAct},
     {"wait", 60, 5, WaitAct},

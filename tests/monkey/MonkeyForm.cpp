@@ -70,6 +70,7 @@ void MonkeyForm::Listen() {
     grid.KeyWentUp.Listen([this](Cell&, std::int16_t&, std::int16_t&) { Fire(Hook::KeyUp); });
     grid.LeaveFocus.Listen([this](Cell&) { Fire(Hook::LeaveFocus); });
     grid.ImageClick.Listen([this](Cell&) { Fire(Hook::ImageClick); });
+    grid.DropDown.Listen([this](Cell&, float, float) { Fire(Hook::DropDown); });
     grid.CloseBoxClick.Listen([this] { Fire(Hook::CloseBoxClick); });
     grid.MenuClick.Listen([this](float, float) { Fire(Hook::MenuClick); });
     grid.Properties().SelChange.Listen([this](Property& item) {
@@ -103,11 +104,13 @@ void MonkeyForm::Run(const Step& step) {
     host_->Site.Reported.clear();
     host_->Box.Inks.clear();
     const bool gone = !Grid() || (Terminated && ++stepsTerminated_ > EnoughTerminated);
+    const std::size_t timers = host_->Clock.Waiting();
     try {
         if (gone) Begin({0, step.C, step.A, step.B});
         Act(step);
     } catch (const std::exception&) { // thrown by a handler, or because an act asked for what is not there
     }
+    NoteTimers(timers);
 }
 
 void MonkeyForm::Complain(std::string what) {
@@ -119,9 +122,9 @@ void MonkeyForm::RememberAll() {
         seen_.push_back(cell);
 }
 
-void MonkeyForm::NoteSpin() {
-    if (Grid() && host_->Clock.Waiting() > 0 && Grid()->RowCell(Grid()->CurrentRow()))
-        spinning_ = Grid()->RowCell(Grid()->CurrentRow())->weak_from_this();
+void MonkeyForm::NoteTimers(std::size_t before) {
+    if (Grid() && host_->Clock.Waiting() > before && Grid()->RowCell(Grid()->CurrentRow()))
+        waiting_ = Grid()->RowCell(Grid()->CurrentRow())->weak_from_this();
 }
 
 void MonkeyForm::Settle() {
@@ -148,7 +151,7 @@ std::string MonkeyForm::Check() {
     if (!complaint_.empty()) return complaint_;
     if (!Grid() || Terminated) return CheckDead();
     for (const auto check : {&MonkeyForm::CheckCurrent, &MonkeyForm::CheckRows, &MonkeyForm::CheckBox,
-                             &MonkeyForm::CheckTimers, &MonkeyForm::CheckView}) {
+                             &MonkeyForm::CheckTimers, &MonkeyForm::CheckView, &MonkeyForm::CheckPads}) {
         std::string wrong = (this->*check)();
         if (!wrong.empty()) return wrong;
     }
@@ -197,8 +200,8 @@ std::string MonkeyForm::CheckBox() {
 
 std::string MonkeyForm::CheckTimers() {
     if (host_->Clock.Waiting() == 0) return {};
-    if (host_->Clock.Waiting() > 1) return "more than one timer waits";
-    return spinning_.expired() ? "a timer waits for a cell that is gone" : "";
+    if (host_->Clock.Waiting() > 3) return "more timers wait than buttons can be held";
+    return waiting_.expired() ? "a timer waits for a cell that is gone" : "";
 }
 
 std::string MonkeyForm::CheckView() {
@@ -209,7 +212,15 @@ std::string MonkeyForm::CheckView() {
     return {};
 }
 
+std::string MonkeyForm::CheckPads() {
+    const int shown = host_->Pads->ShownWindows();
+    if (shown > 1) return "more than one pad shows";
+    if (shown == 1 && !Grid()->IsPadShown()) return "a pad shows that the control knows nothing of";
+    return shown == 1 && !Grid()->RowCell(Grid()->CurrentRow()) ? "a pad without a cell" : "";
+}
+
 std::string MonkeyForm::CheckForgotten() {
+    host_->Pads->ForgetCells();
     std::vector<const Cell*> present;
     for (const auto& cell : Grid()->Cells())
         present.push_back(cell.get());
@@ -224,6 +235,8 @@ std::string MonkeyForm::CheckForgotten() {
 std::string MonkeyForm::CheckDead() {
     if (host_->Clock.Waiting() > 0) return "a timer outlives the control";
     if (host_->Box.Visible) return "the edit box outlives the control";
+    if (host_->Pads->ShownWindows() > 0) return "a pad outlives the control";
+    host_->Pads->ForgetCells();
     if (Grid()) return CheckTerminated();
     std::erase_if(seen_, [](const auto& cell) { return cell.expired(); });
     return seen_.empty() ? "" : "something holds a cell of a control that is gone";

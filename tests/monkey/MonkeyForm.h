@@ -22,6 +22,7 @@ enum class Hook : std::uint8_t {
     KeyUp,
     LeaveFocus,
     ImageClick,
+    DropDown,
     CloseBoxClick,
     MenuClick,
     PropertyChanged,
@@ -71,7 +72,7 @@ public:
     void NoteSilence() { silenced_ = true; }
     /// The program has written numbers that are the control's own.
     void NoteFakedNumbers() { faked_ = true; }
-    void NoteSpin();
+    void NoteTimers(std::size_t before);
     void PaintArea(const Rect& area);
     bool Terminated = false;
     bool CancelErrors = false;
@@ -89,11 +90,12 @@ private:
     std::string CheckDead();
     std::string CheckTerminated();
     std::string CheckView();
+    std::string CheckPads();
 
     std::unique_ptr<headless::HeadlessHost> host_;
     std::map<Hook, std::vector<Step>> armed_;
     std::vector<std::weak_ptr<Cell>> seen_;
-    std::weak_ptr<Cell> spinning_;
+    std::weak_ptr<Cell> waiting_;
     std::string complaint_;
     std::uint64_t orderStamp_ = 1;
     std::uint64_t settledStamp_ = 0;

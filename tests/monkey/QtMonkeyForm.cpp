@@ -15,10 +15,6 @@ namespace {
 
 constexpr int DeepestHandler = 2;
 
-QRect AreaOf(const Rect& rect) {
-    return {rect.Left, rect.Top, rect.Width(), rect.Height()};
-}
-
 } // namespace
 
 QtMonkeyForm::QtMonkeyForm() : window_(new QWidget), other_(new QWidget) {
@@ -126,7 +122,7 @@ std::string QtMonkeyForm::Check() {
     const QLineEdit* edit = Edit();
     if (!edit || edit->isHidden()) return {};
     if (!current) return "an edit box without a cell";
-    const QRect value = AreaOf(grid.ValueArea(*current));
+    const QRect value = widget_->onWidget(grid.ValueArea(*current));
     return edit->geometry().isEmpty() || value.contains(edit->geometry())
                ? ""
                : "the edit box is not over the current row";

@@ -20,7 +20,8 @@ std::int32_t KeyCodeOf(char32_t character) {
 
 } // namespace
 
-HeadlessHost::HeadlessHost(Size size, std::string_view locale, bool userMode, const PropertyBag* bag) {
+HeadlessHost::HeadlessHost(Size size, std::string_view locale, bool userMode, const PropertyBag* bag)
+    : Pads(std::make_unique<FakePads>(Journal, Clock, locale)) {
     Surface.Inner = size;
     Site.Running = userMode;
     Grid = std::make_unique<Quillgrid>(GridPorts{.Window = Surface,
@@ -31,7 +32,8 @@ HeadlessHost::HeadlessHost(Size size, std::string_view locale, bool userMode, co
                                                  .Time = Clock,
                                                  .Desktop = Theme,
                                                  .UserLocale = BuiltInLocale(locale),
-                                                 .Images = &Images});
+                                                 .Images = &Images,
+                                                 .Pads = Pads.get()});
     if (bag) {
         Grid->ReadProperties(*bag);
     } else {
@@ -60,6 +62,10 @@ void HeadlessHost::RecordEvents() {
         Journal.Note("KeyUp " + NameOf(cell) + " " + std::to_string(key));
     });
     grid.LeaveFocus.Listen([this](Cell& cell) { Journal.Note("LeaveFocus " + NameOf(cell)); });
+    grid.DropDown.Listen([this](Cell& cell, float x, float y) {
+        Journal.Note("DropDown " + NameOf(cell) + " " + std::to_string(static_cast<int>(x)) + "," +
+                     std::to_string(static_cast<int>(y)));
+    });
     grid.ImageClick.Listen([this](Cell& cell) { Journal.Note("ImageClick " + NameOf(cell)); });
 }
 
@@ -104,6 +110,22 @@ bool HeadlessHost::Press(std::int32_t keyCode, std::int32_t shift) {
     const bool used = makesCharacter && PressCharacter(static_cast<char32_t>(keyCode));
     if (Grid) Grid->KeyUp(keyCode, shift);
     return used;
+}
+
+void HeadlessHost::ClickRow(std::int32_t rowInView) {
+    Pads->Listpad().MouseDown(Pads->MiddleOfRow(rowInView));
+    if (Pads) Pads->Listpad().MouseUp();
+}
+
+void HeadlessHost::ClickDay(std::int32_t day) {
+    const Point point = Pads->MiddleOfDay(day);
+    Pads->DatePad().MouseDown(point);
+    if (Pads) Pads->DatePad().MouseUp(point);
+}
+
+void HeadlessHost::ClickKey(std::int32_t number) {
+    Pads->CalcPad().MouseDown(Pads->CornerOfKey(number));
+    if (Pads) Pads->CalcPad().MouseUp();
 }
 
 RecordingCanvas HeadlessHost::Paint() const {

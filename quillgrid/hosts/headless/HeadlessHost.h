@@ -5,6 +5,7 @@
 #include "quillgrid/hosts/headless/FakeClock.h"
 #include "quillgrid/hosts/headless/FakeEditBox.h"
 #include "quillgrid/hosts/headless/FakeImages.h"
+#include "quillgrid/hosts/headless/FakePads.h"
 #include "quillgrid/hosts/headless/FakeScrollBar.h"
 #include "quillgrid/hosts/headless/FakeSite.h"
 #include "quillgrid/hosts/headless/FakeSurface.h"
@@ -40,6 +41,7 @@ public:
     FakeTheme Theme;
     FakeImages Images;
     FakeSite Site;
+    std::unique_ptr<FakePads> Pads; ///< goes after the control
     std::unique_ptr<Quillgrid> Grid;
 
     /// Writes every event of the control into the journal: "SelChange name".
@@ -53,6 +55,10 @@ public:
     /// Presses a key that makes no character, or Enter, Escape, Backspace, which do. True: the control used
     /// it.
     bool Press(std::int32_t keyCode, std::int32_t shift = 0);
+    /// Clicks on a row of the list that is in view, on a day of the month, on a key of the calculator.
+    void ClickRow(std::int32_t rowInView);
+    void ClickDay(std::int32_t day);
+    void ClickKey(std::int32_t number);
     /// Everything, or one area, painted.
     RecordingCanvas Paint() const;
     RecordingCanvas Paint(const Rect& area) const;

@@ -131,7 +131,7 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool KeyRouter::Override(QKeyEvent* event) {
-    if (!ClaimsBeforeShortcuts(*event)) return false;
+    if (!ClaimsBeforeShortcuts(*event) && !grid_.IsPadShown()) return false;
     event->accept();
     return true;
 }

@@ -24,6 +24,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
       Bar(*bar_, widget),
       Container(widget, userMode),
       AmbientFont(FromQFont(widget.font())),
+      Pads(widget),
       Grid(Ports()),
       Refusals(Grid, widget, *bubble_),
       Focus(widget),
@@ -68,7 +69,8 @@ GridPorts WidgetHost::Ports() {
             .Time = Time,
             .Desktop = Desktop,
             .UserLocale = LocaleFromQt(widget_.locale()),
-            .Images = &Images};
+            .Images = &Images,
+            .Pads = &Pads};
 }
 
 void WidgetHost::ConnectChildren() {
@@ -82,6 +84,7 @@ void WidgetHost::ConnectChildren() {
         if (alive) Grid.FocusLost();
     };
     Focus.MayClose = [this] { return Commit(); };
+    Pads.Close = [this] { Grid.HidePads(); };
     Keys.BeforeInput = [this] { Refusals.Dismiss(); };
     Keys.LeaveControl = [this](bool next) { widget_.focusNextPrevChild(next); };
     edit_->PasteAllowed = [this] { return Grid.PasteAllowed(); };

@@ -10,6 +10,7 @@
 #include "quillgrid/hosts/qt/QtClock.h"
 #include "quillgrid/hosts/qt/QtEditBox.h"
 #include "quillgrid/hosts/qt/QtImageSource.h"
+#include "quillgrid/hosts/qt/QtPads.h"
 #include "quillgrid/hosts/qt/QtScrollBar.h"
 #include "quillgrid/hosts/qt/QtSite.h"
 #include "quillgrid/hosts/qt/QtSurface.h"
@@ -83,6 +84,7 @@ public:
     QtScrollBar Bar;
     QtSite Container;
     Font AmbientFont;
+    QtPads Pads;
     Quillgrid Grid;
     RefusalMessages Refusals;
     FocusTracker Focus;
