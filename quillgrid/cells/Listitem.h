@@ -3,7 +3,9 @@
 #include "quillgrid/base/Export.h"
 #include "quillgrid/base/Variant.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -13,6 +15,8 @@ namespace quillgrid {
 class QUILLGRID_EXPORT Listitem {
 public:
     Listitem() = default;
+    Listitem(const Listitem&) = delete;
+    Listitem& operator=(const Listitem&) = delete;
 
     /// The position at which it was added; 0 for an entry of no list.
     std::int32_t Index() const { return index_; }
@@ -24,7 +28,9 @@ public:
     void SetItemData(Variant data) { itemData_ = std::move(data); }
     /// Key of an image in the control's image list, Null when there is none.
     const Variant& ListImage() const { return listImage_; }
-    void SetListImage(Variant key) { listImage_ = std::move(key); }
+    void SetListImage(Variant key);
+    /// Whether there is a key at all.
+    bool HasImage() const { return !listImage_.IsNull() && !listImage_.IsEmpty(); }
     std::int32_t Indent() const { return indent_; }
     /// Limited to 0..99.
     void SetIndent(std::int32_t indent);
@@ -37,6 +43,9 @@ private:
     Variant listImage_ = Variant::Null();
     std::int32_t index_ = 0;
     std::int32_t indent_ = 0;
+    /// How many entries of the list have an image: kept here as well, so that nobody needs to look at them
+    /// all. Null for an entry of no list.
+    std::shared_ptr<std::size_t> imagesOfList_;
 };
 
 } // namespace quillgrid

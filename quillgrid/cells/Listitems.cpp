@@ -19,22 +19,24 @@ Listitems::Pointer Listitems::Add(ListitemArguments arguments) {
     entry->text_ = std::move(arguments.Text);
     entry->indent_ = arguments.Indent;
     entry->index_ = Count() + 1;
-    if (entries_.empty()) hasImages_ = false;
-    if (arguments.ListImage) {
-        entry->listImage_ = std::move(*arguments.ListImage);
-        hasImages_ = hasImages_ || !(entry->listImage_.IsNull() || entry->listImage_.IsEmpty());
-    }
+    if (!images_) images_ = std::make_shared<std::size_t>(0);
+    entry->imagesOfList_ = images_;
+    if (arguments.ListImage) entry->SetListImage(std::move(*arguments.ListImage));
     entries_.push_back(entry);
     return entry;
 }
 
 void Listitems::Clear() {
     entries_.clear();
-    hasImages_ = false;
+    images_.reset(); // entries that somebody still holds count for themselves
 }
 
 void Listitems::Remove(std::size_t position) {
-    if (At(position)) entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position - 1));
+    const Pointer entry = At(position);
+    if (!entry) return;
+    if (entry->HasImage()) --*images_;
+    entry->imagesOfList_.reset();
+    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position - 1));
 }
 
 Listitems::Pointer Listitems::Listitem() {

@@ -5,6 +5,7 @@
 #include "quillgrid/cells/Listitem.h"
 #include "quillgrid/cells/PositionIterator.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -26,6 +27,14 @@ public:
     using Pointer = std::shared_ptr<quillgrid::Listitem>;
     using Iterator = PositionIterator<Listitems, quillgrid::Listitem>;
 
+    Listitems() = default;
+    /// An entry stands in one list, which knows of its image.
+    Listitems(const Listitems&) = delete;
+    Listitems& operator=(const Listitems&) = delete;
+    Listitems(Listitems&&) = default;
+    Listitems& operator=(Listitems&&) = default;
+    ~Listitems() = default;
+
     /// Appends an entry.
     Pointer Add(ListitemArguments arguments);
     /// The entry at a position, or nothing.
@@ -34,8 +43,8 @@ public:
     void Clear();
     /// Removes the entry at a position; nothing happens when there is none.
     void Remove(std::size_t position);
-    /// Whether any entry was added with an image.
-    bool HasImages() const { return hasImages_; }
+    /// Whether any entry has an image now. Does not look at the entries.
+    bool HasImages() const { return images_ && *images_ > 0; }
 
     /// A spare entry that belongs to no position; made on the first read.
     Pointer Listitem();
@@ -65,7 +74,7 @@ private:
     Pointer spare_;
     std::string searchText_;
     std::optional<std::uint64_t> lastKeyTick_;
-    bool hasImages_ = false;
+    std::shared_ptr<std::size_t> images_; ///< the count of entries with an image, shared with the entries
 };
 
 } // namespace quillgrid

@@ -26,6 +26,7 @@ struct CalculatorKey {
     std::int32_t Column = 0; ///< 0..5, column 0 holds the formula keys
     std::int32_t Row = 0;    ///< 1..4; 0 for a key that is not there
     std::int32_t Height = 1; ///< rows
+    std::string_view Face{}; ///< what is written on the key
 };
 
 inline constexpr std::int32_t CalculatorKeyCount = 24;

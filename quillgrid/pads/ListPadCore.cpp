@@ -25,6 +25,11 @@ ListPadCore::ListPadCore(const ListPadPorts& ports, ListPadSettings settings)
     LayOut();
 }
 
+void ListPadCore::SetSettings(ListPadSettings settings) {
+    settings_ = std::move(settings);
+    LayOut();
+}
+
 template <typename T>
 void ListPadCore::Set(T ListPadSettings::*field, T value, std::string_view key) {
     settings_.*field = std::move(value);
@@ -115,15 +120,7 @@ bool ListPadCore::HasSwatches() const {
 
 std::int32_t ListPadCore::ImageColumnOf(const Cell& cell) const {
     if (cell.Template() == qgctColor || cell.Template() == qgctSysColor) return SwatchColumn;
-    if (imageSize_.Width <= 0) return 0; // without a list no entry has to be asked
-    const Listitems& items = cell.Listitems();
-    if (items.HasImages()) return imageSize_.Width;
-    // Entries that got an image after they were added are not counted.
-    for (std::size_t row = 1; row <= items.Size(); ++row) {
-        const Variant& image = items.At(row)->ListImage();
-        if (!image.IsNull() && !image.IsEmpty()) return imageSize_.Width;
-    }
-    return 0;
+    return cell.Listitems().HasImages() ? imageSize_.Width : 0;
 }
 
 const Listitems& ListPadCore::Items() const {

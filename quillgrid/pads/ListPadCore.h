@@ -48,6 +48,8 @@ public:
     // Properties; setting one lays the pad out.
 
     const ListPadSettings& Settings() const { return settings_; }
+    /// All the properties at once, as from a property bag; nothing is reported.
+    void SetSettings(ListPadSettings settings);
     void SetBorderStyle(PopupBorderstyleConstants style);
     void SetFont(quillgrid::Font font);
     /// Limited to 1..99; the present number does nothing.

@@ -146,6 +146,27 @@ TEST_F(ListTest, EntriesKnowImagesDataAndIndent) {
     EXPECT_EQ(items.Listitem(), plain);
 }
 
+TEST_F(ListTest, ImagesAreCountedHoweverTheyComeAndGo) {
+    Listitems items;
+    const auto first = items.Add({.Text = "a", .ListImage = Variant::Null()});
+    const auto second = items.Add({.Text = "b", .ListImage = "img"});
+    first->SetListImage("img");
+    first->SetListImage("other");
+    second->SetListImage(Variant::Null());
+    EXPECT_TRUE(items.HasImages());
+    items.Remove(1);
+    EXPECT_FALSE(items.HasImages());
+    first->SetListImage(Variant::Null()); // an entry of no list any more
+    first->SetListImage(3);
+    EXPECT_FALSE(items.HasImages());
+    second->SetListImage(3);
+    items.Clear();
+    items.Add({.Text = "c"});
+    second->SetListImage(Variant());
+    second->SetListImage(4);
+    EXPECT_FALSE(items.HasImages());
+}
+
 TEST_F(ListTest, TypedCharactersSelect) {
     const auto cell = List({"Apple", "Banana", "Berry", "Beta"});
     cell->SetListIndex(1);
