@@ -466,5 +466,22 @@ TEST_F(QtWidget, FollowsFontAndPalette) {
     EXPECT_EQ(form.Widget->grab().toImage().pixelColor(ValueArea(3).center()), QColor(20, 20, 20));
 }
 
+TEST(Qt, AFormDeletedByAPressOnItsScrollBarOutlivesThePress) {
+    QtForm form;
+    for (int number = 0; number < 100; ++number)
+        form.Grid().Add({.Caption = "Cell", .Value = "text"});
+    form.Show();
+    const QPointer<QuillgridWidget> widget = form.Widget;
+    QObject::connect(form.Widget, &QuillgridWidget::selChange, form.Widget, [&] { delete widget.data(); });
+    auto* bar = form.Widget->findChild<QScrollBar*>();
+    const QPointF below(bar->width() / 2.0, bar->height() - bar->width() * 1.5);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, below, bar->mapToGlobal(below), Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(bar, &event);
+    }
+    EXPECT_TRUE(widget.isNull());
+    form.Settle();
+}
+
 } // namespace
 } // namespace quillgrid::qt

@@ -12,10 +12,16 @@
 
 namespace quillgrid::qt {
 
+void AfterItsEvents::operator()(QWidget* widget) const {
+    widget->hide();
+    widget->setParent(nullptr);
+    widget->deleteLater();
+}
+
 WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
     : widget_(widget),
       edit_(std::make_unique<GridLineEdit>(&widget)),
-      bar_(std::make_unique<QScrollBar>(Qt::Vertical, &widget)),
+      bar_(new QScrollBar(Qt::Vertical, &widget)),
       bubble_(std::make_unique<ErrorBubble>(&widget)),
       Metrics(widget),
       Desktop(widget),

@@ -27,6 +27,11 @@
 
 namespace quillgrid::qt {
 
+/// Ends a widget when it is done with the event that it may be in: who scrolls may delete the form.
+struct AfterItsEvents {
+    void operator()(QWidget* widget) const;
+};
+
 /// What a widget is made of: the child widgets, the ports over them, the control, and the paths between. The
 /// members stand in the order in which they need each other; they go in the reverse order.
 class WidgetHost {
@@ -71,7 +76,7 @@ private:
 
     // The children are owned here, not by the widget's list of children: the ports end before them.
     std::unique_ptr<GridLineEdit> edit_;
-    std::unique_ptr<QScrollBar> bar_;
+    std::unique_ptr<QScrollBar, AfterItsEvents> bar_;
     std::unique_ptr<ErrorBubble> bubble_;
 
 public:
