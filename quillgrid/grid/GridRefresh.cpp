@@ -93,11 +93,17 @@ void GridRefresh::Resize() {
     if (state_.ResizeBusy || state_.Terminated) return;
     pads_.Hide();
     const Size size = ports_.Window.InnerSize();
-    if (size == state_.RecordedSize) return;
+    if (size == state_.RecordedSize && size == LaidOutSize()) return;
     state_.RecordedSize = size;
     if (!state_.Ready) return;
     EnforceMinimum(size);
     Refresh();
+}
+
+/// Another one than the recorded when the control was refreshed before it was told of its size, as a hidden
+/// one can be.
+Size GridRefresh::LaidOutSize() const {
+    return {state_.Layout.Control.Width(), state_.Layout.Control.Height()};
 }
 
 /// The container may refuse; then the control makes do with what it has.

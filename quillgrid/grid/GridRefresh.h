@@ -44,6 +44,7 @@ private:
     void Sort();
     void SetCurrent(const std::shared_ptr<Cell>& kept);
     void LayOut();
+    Size LaidOutSize() const;
     void EnforceMinimum(Size size);
     LayoutMeasures Measure();
     void PlaceRows();

@@ -338,6 +338,11 @@ TEST_F(MouseTest, ControlsKeepTheirSmallestSizeWhereTheHostLetsThem) {
     Host.Surface.Invalid.clear();
     Grid.Resize();
     EXPECT_THAT(Host.Surface.Invalid, IsEmpty()) << "the same size again";
+    Host.Surface.Inner = {300, 200}; // a hidden window keeps its new size to itself
+    Grid.Refresh();
+    Host.Surface.Invalid.clear();
+    Host.ResizeTo({500, 300});
+    EXPECT_FALSE(Host.Surface.Invalid.empty()) << "the recorded size, but not the one laid out";
     Host.Surface.MayResize = false;
     Host.ResizeTo({10, 10});
     EXPECT_EQ(Host.Surface.Inner, (Size{10, 10}));

@@ -122,6 +122,8 @@ std::string QtMonkeyForm::Check() {
     const QLineEdit* edit = Edit();
     if (!edit || edit->isHidden()) return {};
     if (!current) return "an edit box without a cell";
+    // A hidden widget hears of its new size when it is shown; a mirrored form stands by its width until then.
+    if (widget_->testAttribute(Qt::WA_PendingResizeEvent)) return {};
     const QRect value = widget_->onWidget(grid.ValueArea(*current));
     return edit->geometry().isEmpty() || value.contains(edit->geometry())
                ? ""
