@@ -144,8 +144,13 @@ void WindowAct(QtMonkeyForm& form, const Step& step) {
 
 void ReparentAct(QtMonkeyForm& form, const Step& step) {
     QWidget& to = step.A % 3 == 0 ? form.OtherWindow() : form.Window();
-    if (step.B % 8 == 0) return form.Widget()->setParent(nullptr);
-    to.layout()->addWidget(form.Widget());
+    if (form.Reparenting) return; // a layout must not lose the widget that it is just taking in
+    form.Reparenting = true;
+    if (step.B % 8 == 0)
+        form.Widget()->setParent(nullptr);
+    else
+        to.layout()->addWidget(form.Widget());
+    form.Reparenting = false;
 }
 
 void ResizeAct(QtMonkeyForm& form, const Step& step) {
@@ -316,7 +321,8 @@ void QtMonkeyForm::Act(const Step& step) {
     const auto run = Deeds[step.Act].Run;
     if (depth_ == 1)
         MayDelete = run == TypeAct || run == KeyAct || run == PressAct || run == CallAct || run == DestroyAct;
-    if (run == ModalAct || run == EventsAct || run == WindowAct || run == ResizeAct) MayDelete = false;
+    if (run == ModalAct || run == EventsAct || run == WindowAct || run == ResizeAct || run == ReparentAct)
+        MayDelete = false;
     Deeds[step.Act].Run(*this, step);
 }
 

@@ -38,6 +38,7 @@ public:
     void Create(const Step& step);
     /// The user's hands, not Qt's geometry, are what the handlers under way answer.
     bool MayDelete = false;
+    bool Reparenting = false;
     bool Doomed = false; ///< deleted later
     bool CancelErrors = false;
     bool CancelValues = false;
