@@ -19,6 +19,7 @@ set(header_roots
   quillgrid/resources/Glyphs.h)
 if(QUILLGRID_BUILD_QT)
   list(APPEND header_roots
+    quillgrid/hosts/qt/CalculatorWidget.h
     quillgrid/hosts/qt/CalendarWidget.h
     quillgrid/hosts/qt/JsonPropertyBag.h
     quillgrid/hosts/qt/QtImageSource.h
