@@ -12,6 +12,7 @@ std::vector<Scene> StateScenes();
 std::vector<Scene> ButtonScenes();
 std::vector<Scene> LanguageScenes();
 std::vector<Scene> CalendarScenes();
+std::vector<Scene> PadScenes();
 
 /// The same picture in other surroundings, under another name.
 Scene InDark(Scene scene, const QString& name, const QString& text);

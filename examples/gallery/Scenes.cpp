@@ -8,7 +8,7 @@ const std::vector<Scene>& AllScenes() {
     static const std::vector<Scene> scenes = [] {
         std::vector<Scene> all;
         for (const auto& part : {TemplateScenes, OrderScenes, FrameScenes, StateScenes, ButtonScenes,
-                                 LanguageScenes, CalendarScenes}) {
+                                 LanguageScenes, CalendarScenes, PadScenes}) {
             auto more = part();
             std::move(more.begin(), more.end(), std::back_inserter(all));
         }
