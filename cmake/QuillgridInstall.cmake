@@ -85,7 +85,8 @@ endif()
 if(QUILLGRID_BUILD_QT)
   quillgrid_install(Qt6 PACKAGE qt6 TARGETS quillgrid_qt=Qt6)
   quillgrid_install(Qt6Sql PACKAGE qt6sql TARGETS quillgrid_qtsql=Qt6Sql)
-  quillgrid_pkgconfig(qt6 "An input form in one Qt widget" LIBRARIES qt6 REQUIRES quillgrid-core Qt6Widgets)
+  quillgrid_pkgconfig(qt6 "An input form in one Qt widget" LIBRARIES qt6 REQUIRES quillgrid-core Qt6Widgets
+                      Qt6PrintSupport)
   quillgrid_pkgconfig(qt6sql "Records of Qt's SQL module for quillgrid-qt6" LIBRARIES qt6sql
                       REQUIRES quillgrid-qt6 Qt6Sql)
 endif()

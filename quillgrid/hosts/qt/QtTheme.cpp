@@ -4,6 +4,7 @@
 
 #include <QFontDatabase>
 #include <QPalette>
+#include <QPrinterInfo>
 #include <QStyle>
 #include <QWidget>
 
@@ -125,12 +126,16 @@ std::vector<std::string> QtTheme::ScreenFonts() const {
     return names;
 }
 
-// Printing is a module of its own; a host that has it hands its printers over through a theme of its own.
+// Qt names no fonts of printers: they print what the screen has.
 std::vector<std::string> QtTheme::PrinterFonts() const {
     return {};
 }
+
 std::vector<std::string> QtTheme::Printers() const {
-    return {};
+    std::vector<std::string> names;
+    for (const QString& name : QPrinterInfo::availablePrinterNames())
+        names.push_back(FromQString(name));
+    return names;
 }
 
 } // namespace quillgrid::qt
