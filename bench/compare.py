@@ -26,15 +26,14 @@ AIMS = [
     ("Paint_PageScrollQuillgrid/1000", "Paint_PageScrollTable/1000", 1.00),
     *((f"Paint_FirstFrameQuillgrid/{size}", f"Paint_FirstFrameTable/{size}", 1.00) for size in SIZES),
     *((f"Paint_FirstFrameQuillgridAutomatic/{size}", f"Paint_FirstFrameTable/{size}", 1.00) for size in SIZES),
-    ("Control_Create", "allocations", 250),
-    ("Control_Save", "allocations", 30),
-    ("Control_Load", "allocations", 45),
-    ("Sheet_ReadAll/10000", "allocations", 450),
-    ("Sheet_WriteAll/10000", "allocations", 450),
-    ("Record_Load/50", "allocations", 2),
     ("BuildQuillgrid/1000", "BuildTable/1000", 1.00),
     ("SortQuillgrid/100000", "SortTable/100000", 0.50),
     *((f"FoldQuillgrid/{size}", f"FoldTable/{size}", 0.60) for size in SIZES),
+    ("Month_Repaint<qt::CalendarWidget>", "Month_Repaint<QCalendarWidget>", 0.20),
+    ("ListPad_Open<PadList>/10", "ListPad_Open<ComboList>/10", 1.00),
+    ("ListPad_Open<PadList>/10000", "ListPad_Open<ComboList>/10000", 0.05),
+    ("ListPad_Open<PadList>/10000", "ListPad_Open<PadList>/10", 1.20),
+    ("ListPad_Move<PadList>/10000", "ListPad_Move<PadList>/10", 1.20),
 ]
 # subject, counter, largest value
 LIMITS = [
