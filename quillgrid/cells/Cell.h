@@ -164,7 +164,7 @@ public:
     bool ShowPercent() const { return state_.ShowPercent; }
     void SetShowPercent(bool show) { Edit().ShowPercent = show; }
     /// Width of the value area in pixels, from layout.
-    std::int32_t Width() const { return state_.Areas[0].Width(); }
+    std::int32_t Width() const { return state_.ValueArea.Width(); }
 
     // Place and access
 
@@ -282,9 +282,9 @@ private:
 
     OwnerLinkReference link_;
     std::unique_ptr<CellExtras> extras_;
+    std::int32_t index_ = 0;
     CellState state_;
     std::string key_;
-    std::int32_t index_ = 0;
     bool allowHoliday_ = true;
     bool allowSaturday_ = true;
     bool allowSunday_ = true;

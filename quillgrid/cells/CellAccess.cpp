@@ -7,18 +7,28 @@ namespace quillgrid {
 
 namespace {
 
-std::size_t Number(CellArea area) {
-    return static_cast<std::size_t>(area) & 3U;
+std::size_t PlaceAfterValue(CellArea area) {
+    return (static_cast<std::size_t>(area) & 3U) - 1;
 }
 
 } // namespace
 
 Rect CellAccess::Area(const Cell& cell, CellArea area) {
-    return MovedUp(cell.state_.Areas[Number(area)], cell.state_.ScrollOffset);
+    const CellState& state = cell.state_;
+    if (area == CellArea::Value) return MovedUp(state.ValueArea, state.ScrollOffset);
+    return MovedUp(state.OtherAreas ? state.OtherAreas->at(PlaceAfterValue(area)) : Rect{},
+                   state.ScrollOffset);
 }
 
 void CellAccess::SetArea(Cell& cell, CellArea area, const Rect& seen) {
-    cell.state_.Areas[Number(area)] = MovedDown(seen, cell.state_.ScrollOffset);
+    CellState& state = cell.state_;
+    const Rect kept = MovedDown(seen, state.ScrollOffset);
+    if (area == CellArea::Value) {
+        state.ValueArea = kept;
+        return;
+    }
+    if (!state.OtherAreas) state.OtherAreas = std::make_unique<std::array<Rect, 3>>();
+    state.OtherAreas->at(PlaceAfterValue(area)) = kept;
 }
 
 void CellAccess::Inherit(Cell& cell, Colour foreColor, bool bold, bool italic) {

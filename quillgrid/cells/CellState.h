@@ -18,21 +18,11 @@ enum class CellArea : std::uint8_t { Value, Button, First, Second };
 
 /// The fields that `Cell::Clear` gives back their first values, apart from the rare ones.
 struct CellState {
-    std::unique_ptr<Variant> UndoValue; ///< none while it is the value itself
-    Variant Value = Variant::Null();
-    std::string Text;
-    std::string Format;
-    std::string Group;
+    // What every layout reads of all cells stands together: a long form does not fit into the processor's
+    // cache.
     std::int32_t ListIndex = -1;
-    std::int32_t MaxLength = 50;
-    Colour ForeColor = ColourWindowText;
-    Colour InheritedForeColor = ColourWindowText;
     ValidationRuleConstants Rule = qgvrNone;
-    ValidationErrConstants ErrorCode = qgErrNone;
     CellStyleConstants Style = qgcsText;
-    ButtonStyleConstants Button = qgbtNone;
-    AlignmentConstants Alignment = qgalLeftJustify;
-    CharCaseConstants CharCase = qgccNone;
     CellTemplateConstants Template = qgctNone;
     bool Visible : 1 = true;
     bool Enabled : 1 = true;
@@ -48,9 +38,23 @@ struct CellState {
     bool StaleText : 1 = false; ///< something that the text depends on changed since it was made
     bool Defining : 1 = false;  ///< values on the way are none to return to
     bool Sample : 1 = false;    ///< made by the control to fill an empty form, and not touched since
-    quillgrid::Label Label;
     std::int32_t ScrollOffset = 0;
-    std::array<Rect, 4> Areas{}; ///< by CellArea, with the scroll offset added
+    Rect ValueArea; ///< with the scroll offset added
+    quillgrid::Label Label;
+
+    std::unique_ptr<std::array<Rect, 3>> OtherAreas; ///< the other places of CellArea; none while all empty
+    std::unique_ptr<Variant> UndoValue;              ///< none while it is the value itself
+    Variant Value = Variant::Null();
+    std::string Text;
+    std::string Format;
+    std::string Group;
+    std::int32_t MaxLength = 50;
+    Colour ForeColor = ColourWindowText;
+    Colour InheritedForeColor = ColourWindowText;
+    ValidationErrConstants ErrorCode = qgErrNone;
+    ButtonStyleConstants Button = qgbtNone;
+    AlignmentConstants Alignment = qgalLeftJustify;
+    CharCaseConstants CharCase = qgccNone;
 };
 
 } // namespace quillgrid

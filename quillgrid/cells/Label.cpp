@@ -34,11 +34,21 @@ void Label::SetCaption(std::string caption) {
 }
 
 void Label::Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height) {
-    place_ = MovedDown({left, top, FarEdge(left, width), FarEdge(top, height)}, scrollOffset_);
+    Writable().Area = MovedDown({left, top, FarEdge(left, width), FarEdge(top, height)}, scrollOffset_);
+}
+
+const Label::Place& Label::Kept() const {
+    static const Place nowhere;
+    return place_ ? *place_ : nowhere;
+}
+
+Label::Place& Label::Writable() {
+    if (!place_) place_ = std::make_unique<Place>();
+    return *place_;
 }
 
 Rect Label::SeenAt() const {
-    return MovedUp(place_, scrollOffset_);
+    return MovedUp(Kept().Area, scrollOffset_);
 }
 
 } // namespace quillgrid

@@ -31,11 +31,11 @@ public:
 
     /// Pixels as seen; kept with the scroll offset added.
     void Move(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
-    std::int32_t Left() const { return place_.Left; }
+    std::int32_t Left() const { return Kept().Area.Left; }
     /// Measured from the first row, that is with the scroll offset of `Move` added.
-    std::int32_t Top() const { return place_.Top; }
-    std::int32_t Width() const { return place_.Width(); }
-    std::int32_t Height() const { return place_.Height(); }
+    std::int32_t Top() const { return Kept().Area.Top; }
+    std::int32_t Width() const { return Kept().Area.Width(); }
+    std::int32_t Height() const { return Kept().Area.Height(); }
     /// Where the label is seen: with the present scroll offset taken off again.
     Rect SeenAt() const;
 
@@ -53,12 +53,21 @@ public:
         round_ = round;
     }
     /// Three values that layout keeps here.
-    std::int32_t LayoutValue(std::size_t which) const { return which < 3 ? layoutValues_[which] : 0; }
+    std::int32_t LayoutValue(std::size_t which) const { return which < 3 ? Kept().Values[which] : 0; }
     void SetLayoutValue(std::size_t which, std::int32_t value) {
-        if (which < 3) layoutValues_[which] = value;
+        if (which < 3) Writable().Values[which] = value;
     }
 
 private:
+    /// What a layout may keep here and most leave alone.
+    struct Place {
+        Rect Area;
+        std::array<std::int32_t, 3> Values{};
+    };
+
+    const Place& Kept() const;
+    Place& Writable();
+
     // What is read of all labels whenever a form is laid out stands together.
     std::uint32_t round_ = 0; ///< none
     std::int32_t accessKey_ = 0;
@@ -66,9 +75,8 @@ private:
     std::unique_ptr<std::string> display_; ///< only where it differs from the caption
     std::string caption_;
     std::int32_t scrollOffset_ = 0;
-    Rect place_;
-    std::array<std::int32_t, 3> layoutValues_{};
     AlignmentConstants alignment_ = qgalLeftJustify;
+    std::unique_ptr<Place> place_; ///< none while all of it is 0
 };
 
 } // namespace quillgrid
