@@ -73,12 +73,12 @@ void CellDropDown::ToggleList(const std::shared_ptr<Cell>& cell) {
 }
 
 void CellDropDown::AskHostSoon(const std::shared_ptr<Cell>& cell, bool staysOpen) {
-    with_.Pads.Await(clock_.After(
-        PressedTime, [this, staysOpen, control = state_.Self, waiter = std::weak_ptr<Cell>(cell)] {
-            const auto held = control.lock();
-            const auto asked = waiter.lock();
-            if (held && asked && state_.IsCurrent(*asked)) AskHost(asked, staysOpen);
-        }));
+    const auto ask = [this, staysOpen, control = state_.Self, waiter = std::weak_ptr<Cell>(cell)] {
+        const auto held = control.lock();
+        const auto asked = waiter.lock();
+        if (held && asked && state_.IsCurrent(*asked)) AskHost(asked, staysOpen);
+    };
+    with_.Pads.Await(cell, clock_.After(PressedTime, ask));
 }
 
 void CellDropDown::AskHost(const std::shared_ptr<Cell>& cell, bool staysOpen) {

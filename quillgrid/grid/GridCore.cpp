@@ -130,7 +130,7 @@ void GridCore::CellRemoved(Cell& cell) {
     State.ResortNeeded = true;
     if (State.Working == &cell) State.Working = nullptr;
     Spin.Forget(cell);
-    if (State.Current.get() == &cell) Pads.Hide();
+    Pads.Forget(cell);
     const std::int32_t row = State.RowOf(cell);
     if (row == 0) return;
     const bool wasCurrent = State.Current.get() == &cell;

@@ -26,6 +26,16 @@ PadWindow& OpenPads::Detach(PadKind kind, const std::shared_ptr<Cell>& cell) {
     return window;
 }
 
+void OpenPads::Await(const std::shared_ptr<Cell>& cell, Connection waiting) {
+    waiter_ = cell;
+    waiting_ = std::move(waiting);
+}
+
+void OpenPads::Forget(const Cell& cell) {
+    if (waiter_.lock().get() == &cell) waiting_.Disconnect();
+    if (state_.IsCurrent(cell)) Hide();
+}
+
 void OpenPads::Hide() {
     waiting_.Disconnect();
     for (const PadKind kind : AllPads) {

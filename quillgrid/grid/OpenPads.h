@@ -31,8 +31,10 @@ public:
     void Begin(const std::shared_ptr<Cell>& cell);
     /// The same, and makes the pad's window ready to be shown below the cell's value.
     PadWindow& Detach(PadKind kind, const std::shared_ptr<Cell>& cell);
-    /// What the host is about to drop down; called off by `Hide`.
-    void Await(Connection waiting) { waiting_ = std::move(waiting); }
+    /// What the host is about to drop down for a cell; called off by `Hide` and when the cell goes.
+    void Await(const std::shared_ptr<Cell>& cell, Connection waiting);
+    /// The cell goes.
+    void Forget(const Cell& cell);
     /// Hides all pads and takes the flag back.
     void Hide();
     /// Hides a pad that no longer stands where its cell is.
@@ -59,6 +61,7 @@ private:
     std::weak_ptr<Cell> cell_;
     Rect value_;
     Variant before_;
+    std::weak_ptr<Cell> waiter_;
     Connection waiting_;
 };
 

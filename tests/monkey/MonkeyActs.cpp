@@ -545,6 +545,7 @@ void OrdinaryAct(MonkeyForm& form, const Step& step) {
     if (!form.Grid()) return;
     form.Host().Surface.MayResize = true;
     form.Grid()->SetAllowWrap(step.B % 2 == 0);
+    form.Grid()->SetTabPolicy(static_cast<TabPolicy>(step.C % 3));
     if (step.A % 2 == 1 && form.Grid()) form.Grid()->SetShowCaption(true);
     if (!form.Grid()) return;
     form.Host().ResizeTo({300, 140});

@@ -33,6 +33,7 @@ void MonkeyForm::Create(const Step& step) {
     const bool userMode = step.B % 8 != 7;
     if (host_ && depth_ > 1) return; // the host of a handler that still runs must stay
     host_ = std::make_unique<HeadlessHost>(Size{300, 120}, Locales[step.A % std::size(Locales)], userMode);
+    timersNoted_ = 0;
     for (const char* image : {"checked", "unchecked", "phone", "fax", "www"})
         host_->Images.Add(image);
     host_->Site.UnitsPerPixel = step.C % 4 == 3 ? 15 : 1;
@@ -104,13 +105,12 @@ void MonkeyForm::Run(const Step& step) {
     host_->Site.Reported.clear();
     host_->Box.Inks.clear();
     const bool gone = !Grid() || (Terminated && ++stepsTerminated_ > EnoughTerminated);
-    const std::size_t timers = host_->Clock.Waiting();
     try {
         if (gone) Begin({0, step.C, step.A, step.B});
         Act(step);
     } catch (const std::exception&) { // thrown by a handler, or because an act asked for what is not there
     }
-    NoteTimers(timers);
+    NoteTimers();
 }
 
 void MonkeyForm::Complain(std::string what) {
@@ -122,9 +122,11 @@ void MonkeyForm::RememberAll() {
         seen_.push_back(cell);
 }
 
-void MonkeyForm::NoteTimers(std::size_t before) {
-    if (Grid() && host_->Clock.Waiting() > before && Grid()->RowCell(Grid()->CurrentRow()))
+void MonkeyForm::NoteTimers() {
+    const std::uint64_t started = host_->Clock.Started();
+    if (Grid() && started != timersNoted_ && Grid()->RowCell(Grid()->CurrentRow()))
         waiting_ = Grid()->RowCell(Grid()->CurrentRow())->weak_from_this();
+    timersNoted_ = started;
 }
 
 void MonkeyForm::Settle() {

@@ -72,7 +72,7 @@ public:
     void NoteSilence() { silenced_ = true; }
     /// The program has written numbers that are the control's own.
     void NoteFakedNumbers() { faked_ = true; }
-    void NoteTimers(std::size_t before);
+    void NoteTimers();
     void PaintArea(const Rect& area);
     bool Terminated = false;
     bool CancelErrors = false;
@@ -96,6 +96,7 @@ private:
     std::map<Hook, std::vector<Step>> armed_;
     std::vector<std::weak_ptr<Cell>> seen_;
     std::weak_ptr<Cell> waiting_;
+    std::uint64_t timersNoted_ = 0; ///< how many of the clock were set then
     std::string complaint_;
     std::uint64_t orderStamp_ = 1;
     std::uint64_t settledStamp_ = 0;

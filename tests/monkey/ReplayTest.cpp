@@ -27,6 +27,11 @@ const Replay Replays[] = {
      "cell-call 0 0 0\nscroll 0 0 0\ndrop 0 0 0\nrules 0 0 0\nkey 0 0 0\narm 0 0 0\n"
      "rules 4263014487 0 0\narm 3139788955 256689338 0\narm 2172960138 1928189979 0\n"
      "set-property 4200404872 0 0\n"},
+    {"a drop-down waited for a cell that had been left and then removed",
+     "arm 212792914 3024617408 0\ncell-call 0 778311983 0\ntype 0 15998206 0\nlist 0 0 0\nadd 0 0 0\n"
+     "settle 0 0 0\nlook 0 1153931498 2464403470\narm 2451084495 2926729178 0\n"
+     "define 1955139983 0 183182766\ncell-call 3000590369 2949320139 0\nadd 0 0 0\n"
+     "drop-down 2287922817 3494290406 0\ndrop-down 0 437213114 0\nremove 1029837722 701949963 0\n"},
 };
 
 TEST(Monkey, WhatItOnceBrokeStaysMended) {

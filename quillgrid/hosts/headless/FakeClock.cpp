@@ -6,6 +6,7 @@ Connection FakeClock::After(std::int32_t milliseconds, std::function<void()> cal
     const auto wait = static_cast<std::uint64_t>(std::max(milliseconds, 0));
     auto timer = std::make_shared<Timer>(Timer{Ticks + wait, std::move(call)});
     timers_->push_back(timer);
+    ++started_;
     return Connection([timers = std::weak_ptr<Timers>(timers_), timer = std::weak_ptr<Timer>(timer)] {
         if (const auto list = timers.lock()) std::erase(*list, timer.lock());
     });

@@ -24,6 +24,8 @@ public:
     /// Lets time pass and makes the calls that fall due on the way, in their order.
     void Advance(std::int32_t milliseconds);
     std::size_t Waiting() const { return timers_->size(); }
+    /// How many were ever set.
+    std::uint64_t Started() const { return started_; }
 
 private:
     struct Timer {
@@ -32,6 +34,7 @@ private:
     };
     using Timers = std::vector<std::shared_ptr<Timer>>;
 
+    std::uint64_t started_ = 0;
     std::shared_ptr<Timers> timers_ = std::make_shared<Timers>();
 };
 
