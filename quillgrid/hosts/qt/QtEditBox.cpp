@@ -116,10 +116,15 @@ void QtEditBox::ApplyMask() {
 }
 
 void QtEditBox::Place(const Rect& area) {
-    edit_.setGeometry(ToQRect(OnWidget(area, owner_)));
+    area_ = area;
+    FollowWidget();
     edit_.setVisible(!area.IsEmpty());
     if (area.IsEmpty()) return;
     if (owner_.focusProxy() != &edit_) owner_.setFocusProxy(&edit_);
+}
+
+void QtEditBox::FollowWidget() {
+    edit_.setGeometry(ToQRect(OnWidget(area_, owner_)));
 }
 
 void QtEditBox::Hide() {

@@ -27,6 +27,8 @@ public:
     void Select(std::size_t start, std::size_t length) override;
     void SetLook(const Look& look) override;
     void Place(const Rect& area) override;
+    /// The same place in a widget of another width: a mirrored one counts from its right edge.
+    void FollowWidget();
     void Hide() override;
     void Focus() override;
 
@@ -43,6 +45,7 @@ private:
 
     GridLineEdit& edit_;
     QWidget& owner_;
+    Rect area_;
     Look look_;
     std::unique_ptr<MaskStyle> style_;
     std::string styledMask_;

@@ -22,8 +22,13 @@ void QtScrollBar::SetValue(std::int32_t value) {
 }
 
 void QtScrollBar::Place(const Rect& area) {
-    bar_.setGeometry(ToQRect(OnWidget(area, owner_)));
+    area_ = area;
+    FollowWidget();
     bar_.show();
+}
+
+void QtScrollBar::FollowWidget() {
+    bar_.setGeometry(ToQRect(OnWidget(area_, owner_)));
 }
 
 void QtScrollBar::Hide() {

@@ -18,11 +18,14 @@ public:
     /// The style greys the arrow of an end that is reached by itself.
     void EnableArrows(bool, bool) override {}
     void Place(const Rect& area) override;
+    /// The same place in a widget of another width: a mirrored one counts from its right edge.
+    void FollowWidget();
     void Hide() override;
 
 private:
     QScrollBar& bar_;
     const QWidget& owner_;
+    Rect area_;
 };
 
 } // namespace quillgrid::qt

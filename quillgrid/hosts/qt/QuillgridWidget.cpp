@@ -28,6 +28,13 @@ constexpr int UsualWidth = 360;
 constexpr int UsualRows = 10;
 constexpr int RowsAtLeast = 3;
 
+/// Qt forgets which widget a window will focus only where it has the focus now; one that moves to another
+/// window and dies there would be remembered by the first.
+void ClearFocusInside(const QuillgridWidget& form) {
+    QWidget* const remembered = form.window()->focusWidget();
+    if (remembered && form.isAncestorOf(remembered)) remembered->clearFocus();
+}
+
 } // namespace
 
 QuillgridWidget::QuillgridWidget(QWidget* parent, Mode mode) : QWidget(parent) {
@@ -112,7 +119,7 @@ void QuillgridWidget::paintEvent(QPaintEvent* event) {
 void QuillgridWidget::resizeEvent(QResizeEvent*) {
     const QPointer<QuillgridWidget> self(this);
     host_->Grid.Resize();
-    if (self) host_->Refusals.Follow();
+    if (self) host_->FollowWidget();
 }
 
 void QuillgridWidget::mousePressEvent(QMouseEvent* event) {
@@ -204,6 +211,7 @@ bool QuillgridWidget::event(QEvent* event) {
             return true; // QWidget would move the focus
     }
     if (event->type() == QEvent::WindowDeactivate && host_) host_->LetGo();
+    if (event->type() == QEvent::ParentAboutToChange && host_) ClearFocusInside(*this);
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::ScreenChangeInternal && host_) host_->ScreenChanged();
     return taken;

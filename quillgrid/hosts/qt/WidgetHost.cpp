@@ -229,6 +229,12 @@ void WidgetHost::FollowCaptionFont(const Font& before) {
     }
 }
 
+void WidgetHost::FollowWidget() {
+    Editor.FollowWidget();
+    Bar.FollowWidget();
+    Refusals.Follow();
+}
+
 void WidgetHost::ScreenChanged() {
     Metrics.Forget();
     texts_.Forget();

@@ -50,6 +50,8 @@ public:
     bool Commit();
     /// Nothing is held down any more; the release may go elsewhere.
     void LetGo() { Grid.MouseUp({-1, -1}); }
+    /// What stands upon the form goes where the form shows it now, also where the control found nothing new.
+    void FollowWidget();
     /// Texts are measured anew: another screen may have another density.
     void ScreenChanged();
     /// Paints the control over its own background.
