@@ -181,7 +181,7 @@ void CallAct(QtMonkeyForm& form, const Step& step) {
     Quillgrid& grid = form.Widget()->grid();
     const auto count = static_cast<std::uint32_t>(grid.Cells().Count());
     const auto cell = count == 0 ? nullptr : grid.Cells().At(1 + step.B % count);
-    switch (step.A % 14) {
+    switch (step.A % 15) {
     case 0: return grid.Refresh();
     case 1: return grid.Undo();
     case 2: return grid.Update();
@@ -195,6 +195,7 @@ void CallAct(QtMonkeyForm& form, const Step& step) {
     case 10: return cell ? cell->SetVisible(step.C % 2 == 0) : grid.Clear();
     case 11: return cell ? cell->SetValue(AnyValue(step.C)) : grid.Refresh();
     case 12: return grid.SetAllowWrap(step.B % 2 == 0);
+    case 13: return form.Widget()->setTabPolicy(static_cast<qt::QuillgridWidget::TabPolicy>(step.B % 3));
     default: return cell ? cell->SetFocus() : grid.Refresh();
     }
 }

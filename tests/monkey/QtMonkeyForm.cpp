@@ -79,6 +79,7 @@ void QtMonkeyForm::Listen() {
     hear(&QuillgridWidget::closeBoxClick, 7);
     hear(&QuillgridWidget::menuClick, 8);
     hear(&QuillgridWidget::propertyChanged, 9);
+    hear(&QuillgridWidget::typingChanged, 10);
 }
 
 QLineEdit* QtMonkeyForm::Edit() {

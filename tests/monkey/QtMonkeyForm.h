@@ -44,7 +44,7 @@ public:
     bool CancelValues = false;
 
 private:
-    static constexpr std::uint32_t HookCount = 10;
+    static constexpr std::uint32_t HookCount = 11;
 
     void Act(const Step& step);
     void Fire(std::uint32_t hook);
