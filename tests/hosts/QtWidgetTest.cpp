@@ -217,6 +217,22 @@ TEST_F(QtWidget, ClickIntoSelectedTextPutsTheCaretThere) {
     EXPECT_EQ(form.Edit()->cursorPosition(), 3);
 }
 
+TEST_F(QtWidget, ALongTextIsSeenFromItsBeginningAndLeftByArrowsAtEitherEnd) {
+    GoTo(2);
+    const auto cell = form.Grid().RowCell(1);
+    cell->SetMaxLength(500);
+    cell->SetValue(std::string(300, 'w'));
+    form.Press(Qt::Key_Up);
+    ASSERT_EQ(form.Edit()->selectedText().size(), 300);
+    EXPECT_EQ(form.Edit()->cursorPosition(), 0);
+    form.Press(Qt::Key_Right);
+    EXPECT_FALSE(form.Edit()->hasSelectedText());
+    EXPECT_EQ(form.Edit()->cursorPosition(), 300);
+    form.Edit()->selectAll();
+    form.Press(Qt::Key_Left);
+    EXPECT_EQ(form.Edit()->cursorPosition(), 0);
+}
+
 TEST_F(QtWidget, ComposedTextPassesTheSameFilter) {
     GoTo(3);
     QInputMethodEvent letters;

@@ -48,7 +48,16 @@ void GridLineEdit::keyPressEvent(QKeyEvent* event) {
     }
     // What may not be copied would not be cut but lost.
     if (event->matches(QKeySequence::Cut) && echoMode() != Normal) return event->accept();
+    if (LeaveSelection(*event)) return event->accept();
     QLineEdit::keyPressEvent(event);
+}
+
+/// To the end of the selection that the arrow points to, wherever in it the caret stands.
+bool GridLineEdit::LeaveSelection(const QKeyEvent& event) {
+    const bool left = event.matches(QKeySequence::MoveToPreviousChar);
+    if (!hasSelectedText() || (!left && !event.matches(QKeySequence::MoveToNextChar))) return false;
+    setCursorPosition(left != text().isRightToLeft() ? selectionStart() : selectionEnd());
+    return true;
 }
 
 void GridLineEdit::contextMenuEvent(QContextMenuEvent* event) {

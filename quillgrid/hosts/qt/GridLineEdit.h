@@ -40,6 +40,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    bool LeaveSelection(const QKeyEvent& event);
     void TakeOrRefuse(const QString& text);
     bool Hides(Qt::InputMethodQuery query) const;
 

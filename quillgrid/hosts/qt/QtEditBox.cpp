@@ -78,7 +78,10 @@ void QtEditBox::Select(std::size_t start, std::size_t length) {
     const int first = UnitsOf(text, start);
     const int last = UnitsOf(text, start + std::min(length, static_cast<std::size_t>(text.size())));
     edit_.setCursorPosition(first);
-    edit_.setSelection(first, last - first);
+    const bool whole = first == 0 && last == text.size();
+    // The end with the caret is what is seen of a long text: of a new one its beginning, of a completed one
+    // what was added.
+    edit_.setSelection(whole ? last : first, whole ? -last : last - first);
 }
 
 void QtEditBox::SetLook(const Look& look) {
