@@ -27,6 +27,10 @@ public:
     void Move(Point point) { tips_.Show(PlaceAt(point)); }
     void Up(Point point);
     void Leave() { tips_.Forget(); }
+    /// The menus of the caption, and what a click on the status line does, for keys.
+    void OpenMonths() { menus_.ShowMonths({state_.Layout.CaptionText.Left, 0}); }
+    void OpenYears() { menus_.ShowYears({state_.View.YearStart, 0}); }
+    void PickToday();
     /// Whatever a press began ends: its release will not come.
     void Cancel();
 
@@ -36,7 +40,6 @@ private:
     void PressButton(CalendarPadLayout::Button which);
     bool Step(CalendarPadLayout::Button which);
     void PickDay(std::int32_t cell);
-    void PickToday();
 
     CalendarPadState& state_;
     CalendarCommands& commands_;

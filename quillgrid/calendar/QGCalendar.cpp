@@ -155,6 +155,18 @@ void QGCalendar::SetEnabled(bool enabled) {
     Assign(state_.Settings.Enabled, enabled, "Enabled");
 }
 
+void QGCalendar::OpenMonths() {
+    if (Enabled() && state_.IsLaidOut()) mouse_.OpenMonths();
+}
+
+void QGCalendar::OpenYears() {
+    if (Enabled() && state_.IsLaidOut()) mouse_.OpenYears();
+}
+
+void QGCalendar::PickToday() {
+    if (Enabled()) mouse_.PickToday();
+}
+
 void QGCalendar::KeyDown(std::int32_t& keyCode, std::int32_t) {
     if (!Enabled()) return;
     const auto date = DateForKey(state_.Days, keyCode);
@@ -189,6 +201,13 @@ void QGCalendar::Hidden() {
 
 void QGCalendar::Paint(Canvas& canvas, const Rect& dirty) const {
     CalendarPainter(state_.Layout, state_.View, canvas).Paint(dirty);
+}
+
+std::string QGCalendar::HolidayName(DateTime date) {
+    const std::int32_t day = NearestValidDay(date.Day);
+    std::string name = state_.Days.ShowMonth({day}).Name(PartsFromDay(day).Day);
+    state_.Days.ShowMonth(CurrentDate());
+    return name;
 }
 
 std::string QGCalendar::TimeZone(DateTime date) const {

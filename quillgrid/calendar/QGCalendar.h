@@ -75,6 +75,11 @@ public:
     void MouseMove(Point point);
     void MouseUp(Point point);
     void MouseLeave() { mouse_.Leave(); }
+    /// What only clicks do otherwise, for keys of the host's: the menus of the caption, and today. Nothing
+    /// while the pad is not enabled.
+    void OpenMonths();
+    void OpenYears();
+    void PickToday();
     /// The window left the screen: what is still pressed or repeating ends.
     void Hidden();
     /// The window has another size.
@@ -82,6 +87,8 @@ public:
     /// Paints what of the pad lies in an area.
     void Paint(Canvas& canvas, const Rect& dirty) const;
 
+    /// The name of a day's holiday; "" for a day that is none.
+    std::string HolidayName(DateTime date);
     /// The key of the first range that holds the date; "" when there is none.
     std::string TimeZone(DateTime date) const;
     quillgrid::TimeZones& TimeZones() { return state_.Ranges; }

@@ -29,7 +29,8 @@ bool IsPasteKey(std::int32_t keyCode, std::int32_t shift) {
 
 bool CellEditor::KeyDown(std::int32_t keyCode, std::int32_t shift) {
     const auto cell = state_.Current;
-    if (!cell || !state_.UserMode || state_.Terminated) return false;
+    if (!state_.UserMode || state_.Terminated) return false;
+    if (!cell) return pointer_.KeyDown(keyCode, shift);
     if (!state_.PadOpen) events_.KeyDown(*cell, keyCode, shift);
     if (!state_.IsCurrent(*cell) || keyCode == 0) return true;
     if (pads_.TakeKeys()) return pads_.KeyDown(keyCode, shift);
@@ -37,6 +38,7 @@ bool CellEditor::KeyDown(std::int32_t keyCode, std::int32_t shift) {
 }
 
 bool CellEditor::HandleKeyDown(const Cell& cell, std::int32_t keyCode, std::int32_t shift) {
+    if (pointer_.KeyDown(keyCode, shift)) return true;
     if ((shift & ShiftAlt) != 0) {
         if (keyCode != quillgrid::KeyDown) return false;
         dropDown_.Run();

@@ -9,6 +9,7 @@
 #include "quillgrid/grid/GroupFolding.h"
 #include "quillgrid/grid/Navigator.h"
 #include "quillgrid/grid/PadKeys.h"
+#include "quillgrid/grid/PointerKeys.h"
 #include "quillgrid/grid/ValueStepper.h"
 
 namespace quillgrid {
@@ -25,6 +26,7 @@ public:
         GroupFolding& Folding;
         PadKeys& Pads;
         CellDropDown& DropDown;
+        PointerKeys& Pointer;
     };
 
     CellEditor(GridState& state, EditSeat& seat, const Partners& partners, GridEvents& events,
@@ -38,6 +40,7 @@ public:
           folding_(partners.Folding),
           pads_(partners.Pads),
           dropDown_(partners.DropDown),
+          pointer_(partners.Pointer),
           events_(events),
           locale_(locale) {}
 
@@ -79,6 +82,7 @@ private:
     GroupFolding& folding_;
     PadKeys& pads_;
     CellDropDown& dropDown_;
+    PointerKeys& pointer_;
     GridEvents& events_;
     const Locale& locale_;
 };

@@ -46,10 +46,11 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       PadKeys(Pads, Listpad, DatePad),
       DropDown(State, {Pads, Results, Listpad, DatePad, CalcPad, Commit, Stepper, Selector, Events, Repaint},
                ports_.Container, ports_.Time),
-      Editor(State, Seat, {Commit, Navigator, Stepper, Refresher, Folding, PadKeys, DropDown}, Events,
-             ports_.UserLocale),
       Mouse(State, {Selector, DropDown, Pads, Spin, Folding, Events, Repaint}, ports_.Window,
             ports_.Container, ports_.Images),
+      PointerKeys(State, Mouse, Stepper, Navigator, Events),
+      Editor(State, Seat, {Commit, Navigator, Stepper, Refresher, Folding, PadKeys, DropDown, PointerKeys},
+             Events, ports_.UserLocale),
       Drops(State, Selector, Commit, Stepper, Seat),
       Records(State, Cells, Seat, Repaint),
       Painter(State, Groups, ports_.Images) {

@@ -26,6 +26,7 @@
 #include "quillgrid/grid/OpenPads.h"
 #include "quillgrid/grid/PadKeys.h"
 #include "quillgrid/grid/PadResults.h"
+#include "quillgrid/grid/PointerKeys.h"
 #include "quillgrid/grid/PropertySetter.h"
 #include "quillgrid/grid/PropertySheets.h"
 #include "quillgrid/grid/RecordBinding.h"
@@ -94,8 +95,9 @@ public:
     CalcDropDown CalcPad;
     class PadKeys PadKeys;
     CellDropDown DropDown;
-    CellEditor Editor;
     MouseController Mouse;
+    class PointerKeys PointerKeys;
+    CellEditor Editor;
     DropTarget Drops;
     RecordBinding Records;
     GridPainter Painter;

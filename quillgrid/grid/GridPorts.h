@@ -12,6 +12,8 @@
 #include "quillgrid/platform/TextMetrics.h"
 #include "quillgrid/platform/Theme.h"
 
+#include <functional>
+
 namespace quillgrid {
 
 /// Everything the control needs of its host. All of it outlives the control.
@@ -27,6 +29,8 @@ struct GridPorts {
     ImageSource* Images = nullptr;
     CurrencyConverter* Currencies = nullptr; ///< null: the euro and what it replaced
     PadFactory* Pads = nullptr;              ///< null: the host is asked by DropDown instead
+    /// The rows were put in order anew, other ones perhaps. The control is left as it is then.
+    std::function<void()> RowsSorted{};
 };
 
 } // namespace quillgrid

@@ -20,7 +20,8 @@ void GridRefresh::Refresh() {
     state_.Silent = false;
     LoadSamples();
     std::shared_ptr<Cell> kept;
-    if (state_.ResortNeeded) {
+    const bool sorts = state_.ResortNeeded;
+    if (sorts) {
         // What is being typed belongs to its own cell, wherever that stands afterwards.
         if (commit_.Commit() == CommitResult::Cancelled) kept = state_.Current;
         if (state_.Terminated) return;
@@ -30,6 +31,7 @@ void GridRefresh::Refresh() {
         CellAccess::RefreshStaleText(*cell);
     SetCurrent(kept);
     LayOut();
+    if (sorts && ports_.RowsSorted) ports_.RowsSorted();
 }
 
 void GridRefresh::LoadSamples() {

@@ -27,6 +27,8 @@ enum KeyCode : std::int32_t {
     KeyV = 86,
     KeyF1 = 112,
     KeyF4 = 115,
+    KeyF9 = 120,
+    KeyF10 = 121,
     KeyF12 = 123,
 };
 

@@ -1,7 +1,6 @@
 #include "quillgrid/grid/MouseController.h"
 
 #include "quillgrid/grid/CellRules.h"
-#include "quillgrid/grid/ValueLayout.h"
 
 namespace quillgrid {
 
@@ -89,13 +88,30 @@ void MouseController::Release(Point position) {
     if (state_.Terminated || !state_.UserMode) return;
     with_.Spin.Stop();
     const Hit hit = HitAt(position);
-    const Rect menu = state_.Layout.MenuBox;
     const LetGo afterwards(*this); // a menu that a handler opens hangs from a pressed box
-    if (hit.Place == HitPlace::CloseBox) return with_.Events.CloseBoxClick();
-    if (hit.Place == HitPlace::MenuBox) {
-        with_.Events.MenuClick(static_cast<float>(site_.ToContainerUnits(menu.Left)),
-                               static_cast<float>(site_.ToContainerUnitsVertically(menu.Bottom)));
-    }
+    if (hit.Place == HitPlace::CloseBox) ClickCloseBox();
+    if (hit.Place == HitPlace::MenuBox) ClickMenuBox();
+}
+
+bool MouseController::ClickCloseBox() {
+    if (state_.Layout.CloseBox.IsEmpty()) return false;
+    with_.Events.CloseBoxClick();
+    return true;
+}
+
+bool MouseController::ClickMenuBox() {
+    const Rect menu = state_.Layout.MenuBox;
+    if (menu.IsEmpty()) return false;
+    with_.Events.MenuClick(static_cast<float>(site_.ToContainerUnits(menu.Left)),
+                           static_cast<float>(site_.ToContainerUnitsVertically(menu.Bottom)));
+    return true;
+}
+
+bool MouseController::ClickImage() {
+    const auto cell = state_.Current;
+    if (!cell || IsHeading(*cell) || !PartsOf(*cell, state_.CurrentRow).ImageContent) return false;
+    PressImage(cell);
+    return true;
 }
 
 void MouseController::Move(Point position, bool buttonHeld) {
@@ -143,10 +159,16 @@ void MouseController::RepaintPart(const MousePart& part) {
 
 bool MouseController::IsOnImage(const Cell& cell, std::int32_t row, Point position) const {
     if (IsHeading(cell)) return false;
-    const Rect area = state_.ValueArea(row);
+    const ValueLayout parts = PartsOf(cell, row);
+    return parts.ImageContent && position.X < state_.ValueArea(row).Left + parts.Image.Width();
+}
+
+/// Of a value that may not be seen there is no picture either.
+ValueLayout MouseController::PartsOf(const Cell& cell, std::int32_t row) const {
     const bool visible = IsDataVisible(cell, state_.Settings.UserLevel);
-    const ValueLayout parts = LayOutValue(cell, area, state_.Layout, images_, visible);
-    return visible && parts.ImageContent && position.X < area.Left + parts.Image.Width();
+    ValueLayout parts = LayOutValue(cell, state_.ValueArea(row), state_.Layout, images_, visible);
+    if (!visible) parts.ImageContent = nullptr;
+    return parts;
 }
 
 void MouseController::DoubleClick() {

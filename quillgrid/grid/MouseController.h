@@ -9,6 +9,7 @@
 #include "quillgrid/grid/RepaintRequests.h"
 #include "quillgrid/grid/RowSelector.h"
 #include "quillgrid/grid/SpinRepeater.h"
+#include "quillgrid/grid/ValueLayout.h"
 #include "quillgrid/platform/ImageSource.h"
 #include "quillgrid/platform/Site.h"
 #include "quillgrid/platform/Surface.h"
@@ -43,6 +44,12 @@ public:
     /// In the edit box: as F4.
     void DoubleClick();
 
+    // What a click does there, for keys. False where there is nothing to click.
+    bool ClickCloseBox();
+    bool ClickMenuBox();
+    /// The picture of the current value.
+    bool ClickImage();
+
 private:
     /// Nothing is pressed any more at its end, whatever handlers do until then.
     class LetGo {
@@ -66,6 +73,7 @@ private:
     void RepaintPart(const MousePart& part);
     MousePart PartAt(const Hit& hit) const;
     bool IsOnImage(const Cell& cell, std::int32_t row, Point position) const;
+    ValueLayout PartsOf(const Cell& cell, std::int32_t row) const;
     bool IsOnButtonOfOpenPad(const Hit& hit) const;
     bool HasGroup(std::int32_t row) const;
 

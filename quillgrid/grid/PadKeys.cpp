@@ -2,6 +2,7 @@
 
 #include "quillgrid/calendar/QGCalendar.h"
 #include "quillgrid/grid/Keys.h"
+#include "quillgrid/grid/PadCommands.h"
 #include "quillgrid/pads/QGCalcpad.h"
 #include "quillgrid/pads/QGInputList.h"
 
@@ -34,10 +35,15 @@ bool PadKeys::KeyDown(std::int32_t keyCode, std::int32_t shift) {
 }
 
 void PadKeys::Pass(std::int32_t keyCode, std::int32_t shift) {
+    PadFactory& pads = pads_.Factory();
     switch (*pads_.Shown()) {
-    case PadKind::List: return pads_.Factory().Listpad().KeyDown(keyCode, shift);
-    case PadKind::Date: return pads_.Factory().DatePad().KeyDown(keyCode, shift);
-    case PadKind::Calc: return pads_.Factory().CalcPad().KeyDown(keyCode, shift);
+    case PadKind::List: return pads.Listpad().KeyDown(keyCode, shift);
+    case PadKind::Date:
+        if (!RunPadCommand(pads.DatePad(), keyCode, shift)) pads.DatePad().KeyDown(keyCode, shift);
+        return;
+    case PadKind::Calc:
+        if (!RunPadCommand(pads.CalcPad(), keyCode, shift)) pads.CalcPad().KeyDown(keyCode, shift);
+        return;
     }
 }
 

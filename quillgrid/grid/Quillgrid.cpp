@@ -254,6 +254,14 @@ void Quillgrid::MouseWheel(std::int32_t rows) {
         std::clamp<std::int64_t>(first, 1, std::numeric_limits<std::int32_t>::max())));
 }
 
+bool Quillgrid::HasCloseBox() const {
+    return !core_->State.Layout.CloseBox.IsEmpty();
+}
+
+bool Quillgrid::HasMenuBox() const {
+    return !core_->State.Layout.MenuBox.IsEmpty();
+}
+
 void Quillgrid::HidePads() {
     const Core core = core_;
     if (!core->State.Terminated) core->Pads.Hide();

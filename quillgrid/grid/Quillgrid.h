@@ -334,6 +334,9 @@ public:
     /// 1-based; 0 without rows.
     std::int32_t CurrentRow() const;
     std::int32_t FirstVisibleRow() const;
+    /// Whether the caption bar shows these boxes now: their keys are the control's then.
+    bool HasCloseBox() const;
+    bool HasMenuBox() const;
     /// Whole rows that fit.
     std::int32_t VisibleRows() const;
     /// The cell of a row (1-based), null outside.

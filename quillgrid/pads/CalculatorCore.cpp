@@ -85,6 +85,11 @@ void CalculatorCore::KeyDown(std::int32_t& keyCode) {
     Press(code);
 }
 
+void CalculatorCore::ChangeSign() {
+    std::int32_t code = action::ChangeSign;
+    Press(code);
+}
+
 void CalculatorCore::MouseDown(Point point) {
     const std::int32_t key = layout_.KeyAt(point);
     if (key == 0) return;

@@ -64,6 +64,8 @@ public:
     /// F5 to F8 run the formulas and become 0.
     void KeyDown(std::int32_t& keyCode);
     void KeyUp() { pressedKey_ = 0; }
+    /// The one key of the pad that no character types.
+    void ChangeSign();
 
     void MouseDown(Point point);
     void MouseMove(Point point, bool buttonDown);

@@ -80,6 +80,10 @@ void QGCalcpad::KeyUp(std::int32_t, std::int32_t) {
     Do([&] { core_.KeyUp(); });
 }
 
+void QGCalcpad::ChangeSign() {
+    Do([&] { core_.ChangeSign(); });
+}
+
 void QGCalcpad::MouseDown(Point point) {
     Do([&] { core_.MouseDown(point); });
 }
@@ -151,7 +155,9 @@ void QGCalcpad::RepaintAll() {
 
 void QGCalcpad::Sync() {
     SyncPressedKey();
-    if (drawn_ != Drawn{Display(), core_.IsOutOfLimits()}) DrawValue();
+    if (drawn_ == Drawn{Display(), core_.IsOutOfLimits()}) return;
+    DrawValue();
+    DisplayChange.Raise();
 }
 
 void QGCalcpad::SyncPressedKey() {

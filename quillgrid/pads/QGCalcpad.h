@@ -21,6 +21,8 @@ public:
     Event<> ValueChange;
     /// The user is done.
     Event<> CloseUp;
+    /// The display shows something else; handlers leave the pad as it is.
+    Event<> DisplayChange;
 
     /// The pad has the defaults of all properties until the host reads others.
     explicit QGCalcpad(const CalcpadPorts& ports);
@@ -66,6 +68,8 @@ public:
     // What the host calls
 
     void Paint(Canvas& canvas, const Rect& area);
+    /// The one key that no character types: hosts give it a key of theirs.
+    void ChangeSign();
     void MouseDown(Point point);
     void MouseMove(Point point, bool buttonDown);
     void MouseUp();

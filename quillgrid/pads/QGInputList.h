@@ -61,6 +61,9 @@ public:
     std::int32_t ItemData() const { return core_.ItemData(); }
     std::string Text() const { return core_.Text(); }
     std::shared_ptr<Listitem> SelectedItem() const { return core_.SelectedItem(); }
+    /// How many rows there are, and the entry of one (1-based), null where there is none.
+    std::int32_t RowCount() const { return core_.RowCount(); }
+    std::shared_ptr<Listitem> Item(std::int32_t row) const { return core_.RowItem(row); }
 
     // Published methods
 
