@@ -113,7 +113,7 @@ TEST_F(CalendarWidgetShown, FillsItsLayoutAndFollowsFontLocaleAndPalette) {
 
 TEST_F(CalendarWidgetShown, TheCaptionOpensMenusOfMonthsAndYears) {
     const Rect& caption = widget->pad().Layout().CaptionText;
-    const auto menu = [this] {
+    const auto menu = [] {
         QApplication::processEvents();
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     };
