@@ -84,11 +84,13 @@ class Ear:
 
     def __init__(self):
         self.heard = set()
+        self.count = 0
         self.listener = Atspi.EventListener.new(self.hear)
-        for kind in ("object:state-changed", "object:property-change", "object:property-change:accessible-value"):
+        for kind in ("object:state-changed", "object:children-changed", "object:selection-changed", "object:visible-data-changed", "object:property-change:accessible-name", "object:property-change", "object:property-change:accessible-value"):
             self.listener.register(kind)
 
     def hear(self, event):
+        self.count += 1
         self.heard.add((event.type, event.source and event.source.get_name()))
 
     def check(self, kind, name):
@@ -142,6 +144,89 @@ def refuse(form, ear):
     print("states of the refused row:", [str(state.value_nick) for state in due.get_state_set().get_states()])
 
 
+def open_pad(form, ear, name, role):
+    """Drops a row's pad down; the row and the pad, which hangs from it."""
+    row = row_named(form, name)
+    do(row, "ShowMenu")
+    pad = wait_for(f"the pad of {name}", lambda: next(iter(children(row)), None))
+    check(f"role of the pad of {name}", pad.get_role_name(), role)
+    check(f"{name} is unfolded", has(row, Atspi.StateType.EXPANDED), True)
+    check(f"the pad of {name} leads back to it", pad.get_parent().get_name(), name)
+    return row, pad
+
+
+def closed(row, value):
+    name = row.get_name()
+    check(f"{name} took {value}", wait_for(f"the pad of {name} to close", lambda: not children(row) and text_of(row)), value)
+    check(f"{name} is folded", has(row, Atspi.StateType.EXPANDED), False)
+
+
+def pick_from_list(form, ear):
+    row, pad = open_pad(form, ear, "City", "list")
+    entries = children(pad)
+    check("entries", [entry.get_name() for entry in entries], ["Aachen", "Bonn", "Celle"])
+    check("roles of entries", {entry.get_role_name() for entry in entries}, {"list item"})
+    check("the entry chosen", [has(entry, Atspi.StateType.SELECTED) for entry in entries], [False, True, False])
+    ear.check("object:state-changed:focused", "Bonn")
+    do(entries[0], "SetFocus")
+    ear.check("object:state-changed:focused", "Aachen")
+    ear.check("object:state-changed:selected", "Aachen")
+    do(entries[2], "Press")
+    closed(row, "Celle")
+
+
+def pick_a_day(form, ear):
+    row, pad = open_pad(form, ear, "Day", "panel")
+    check("the month", pad.get_name(), "May 2026")
+    table = find(pad, "table")
+    days = children(table)
+    check("days", len(days), 42)
+    check("a table of weeks", (Atspi.Table.get_n_rows(table), Atspi.Table.get_n_columns(table)), (6, 7))
+    first = next(day for day in days if has(day, Atspi.StateType.SELECTED))
+    check("the day", "1 May 2026" in first.get_name() or "May 1, 2026" in first.get_name(), True)
+    check("the holiday is told", first.get_description() != "", True)
+    ear.check("object:state-changed:focused", first.get_name())
+    buttons = {button.get_name(): button for button in children(pad) if button.get_role_name() == "push button"}
+    do(buttons["Next month"], "Press")
+    ear.check("object:property-change:accessible-name", "June 2026")
+    check("the next month", wait_for("June", lambda: pad.clear_cache() or pad.get_name()), "June 2026")
+    do(buttons["Previous month"], "Press")
+    table.clear_cache()
+    tenth = next(day for day in children(table) if "10 May" in day.get_name() or "May 10" in day.get_name())
+    do(tenth, "Press")
+    check("the pad is closed", wait_for("the calendar to close", lambda: not children(row) and "closed"), "closed")
+    check("the day is taken", "10" in text_of(row), True)
+
+
+def compute(form, ear):
+    row, pad = open_pad(form, ear, "Sum", "panel")
+    keys = {key.get_name(): key for key in children(pad)[1:]}
+    check("keys", (len(keys), {key.get_role_name() for key in keys.values()}), (23, {"push button"}))
+    for key in ("clear", "7", "times", "6", "equals"):
+        do(keys[key], "Press")
+    ear.check("object:property-change:accessible-name", "42")
+    check("the display", wait_for("42", lambda: children(pad)[0].get_name()), "42")
+    do(keys["equals"], "Press")
+    check("the sum is taken", wait_for("the calculator to close", lambda: not children(row) and "42" in text_of(row)), True)
+
+
+def add_rows(form, ear):
+    more = row_named(form, "More")
+    before = form.get_child_count()
+    do(more, "Toggle")
+    ear.check("object:children-changed:add", "")
+    check("two more rows", form.get_child_count(), before + 2)
+    ear.count = 0
+    do(more, "Toggle")
+    check("very many more rows", wait_for("the rows", lambda: form.get_child_count() > before + 100_000), True)
+    end = time.monotonic() + 2
+    while time.monotonic() < end:
+        GLib.MainContext.default().iteration(False)
+        time.sleep(0.001)
+    check("they are not told of one by one", ear.count < 50, True)
+    print("heard of 100000 rows:", ear.count, sorted(kind for kind, name in ear.heard if "visible" in kind))
+
+
 def main():
     Atspi.init()
     program = subprocess.Popen([sys.argv[1]])
@@ -150,6 +235,10 @@ def main():
         ear = Ear()
         read(form, ear)
         refuse(form, ear)
+        pick_from_list(form, ear)
+        pick_a_day(form, ear)
+        compute(form, ear)
+        add_rows(form, ear)
     finally:
         program.kill()
         program.wait()

@@ -9,11 +9,14 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class QWidget;
 
 namespace quillgrid::qt {
 
+class PadWidget;
+class QtPads;
 class QuillgridWidget;
 
 /// Tells assistive programs what happens in the control, and its accessible objects what they cannot ask of
@@ -23,7 +26,7 @@ class AccessibilityNotices : public QObject {
 
 public:
     /// `bubble` shows why a text was refused. Becomes a child of the widget.
-    AccessibilityNotices(Quillgrid& grid, QuillgridWidget& widget, QWidget& bubble);
+    AccessibilityNotices(Quillgrid& grid, QuillgridWidget& widget, QWidget& bubble, const QtPads& pads);
 
     /// The control is going: from now on there is nothing to ask it.
     void Stop() { setParent(nullptr); }
@@ -35,8 +38,14 @@ public:
 
     Quillgrid& Grid() const { return grid_; }
     /// From now on what happens is told.
-    void SomebodyAsks() { asked_ = true; }
+    void SomebodyAsks();
     bool HasFocus() const;
+    /// The pad that the current cell has dropped down, or null.
+    PadWidget* OpenPad() const;
+    /// The object of the current cell, or null.
+    QAccessibleInterface* CurrentRow() const;
+    /// There may be other rows. Tells of them once all is done.
+    void RowsChanged();
     /// Whether the control says at present that it refused the cell's text.
     bool IsRefused(const Cell& cell) const;
     /// Says that a cell must have a value.
@@ -54,12 +63,17 @@ private:
     static void TellChecked(QAccessibleInterface& row);
     void TellValue(const Cell& cell);
     void TellFocus(const Cell& cell);
+    std::vector<const Cell*> Rows() const;
+    void TellRows();
 
     Quillgrid& grid_;
     QuillgridWidget& widget_;
     QWidget& bubble_;
+    const QtPads& pads_;
     std::weak_ptr<Cell> refused_;
+    std::vector<const Cell*> told_; ///< the rows that were there when they were told of last
     bool asked_ = false;
+    bool tells_ = false; ///< the telling of rows is on its way
 };
 
 } // namespace quillgrid::qt

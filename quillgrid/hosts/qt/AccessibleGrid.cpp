@@ -2,6 +2,7 @@
 
 #include "quillgrid/grid/Quillgrid.h"
 #include "quillgrid/hosts/qt/AccessibilityNotices.h"
+#include "quillgrid/hosts/qt/AccessiblePad.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
 
@@ -118,6 +119,10 @@ QAccessibleInterface* AccessibleGrid::childAt(int x, int y) const {
 QAccessibleInterface* AccessibleGrid::focusChild() const {
     const Quillgrid* grid = Grid();
     if (!grid || !AccessibilityNotices::Of(Widget())->HasFocus()) return nullptr;
+    if (PadWidget* pad = AccessibilityNotices::Of(Widget())->OpenPad()) {
+        AccessiblePad* open = AccessiblePad::Of(*pad);
+        if (QAccessibleInterface* part = open ? open->focusChild() : nullptr) return part;
+    }
     QWidget* focus = QApplication::focusWidget();
     if (focus != widget()) return QAccessible::queryAccessibleInterface(focus);
     return grid->Cell() ? RowAt(grid->CurrentRow()) : nullptr;

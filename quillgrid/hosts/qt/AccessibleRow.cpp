@@ -3,6 +3,7 @@
 #include "quillgrid/grid/CellRules.h"
 #include "quillgrid/grid/Keys.h"
 #include "quillgrid/hosts/qt/AccessibilityNotices.h"
+#include "quillgrid/hosts/qt/AccessiblePad.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
@@ -63,6 +64,24 @@ std::shared_ptr<Cell> AccessibleRow::ShownCell() const {
 
 QAccessibleInterface* AccessibleRow::parent() const {
     return widget_ ? QAccessible::queryAccessibleInterface(widget_) : nullptr;
+}
+
+QAccessibleInterface* AccessibleRow::OpenPad() const {
+    const auto cell = ShownCell();
+    const bool current = cell && Grid()->Cell() == cell.get();
+    PadWidget* pad = current ? Notices()->OpenPad() : nullptr;
+    return pad ? AccessiblePad::Of(*pad) : nullptr;
+}
+
+// Never null, as a pad may close between the count and the question.
+QAccessibleInterface* AccessibleRow::child(int index) const {
+    QAccessibleInterface* pad = index == 0 ? OpenPad() : nullptr;
+    QAccessibleInterface* grid = parent();
+    return pad ? pad : grid ? grid->child(-1) : nullptr;
+}
+
+int AccessibleRow::indexOfChild(const QAccessibleInterface* child) const {
+    return child && child == OpenPad() ? 0 : -1;
 }
 
 QString AccessibleRow::Shown() const {
@@ -135,6 +154,10 @@ QAccessible::State AccessibleRow::state() const {
     if (!IsHeading(*cell)) {
         DescribeKind(*cell, state);
         if (IsBoolean(*cell) && IsDataVisible(*cell, level)) DescribeCheck(*cell, state);
+        if (!state.hasPopup) return state;
+        state.expandable = true;
+        state.expanded = OpenPad() != nullptr;
+        state.collapsed = !state.expanded;
         return state;
     }
     state.expandable = true;
@@ -217,8 +240,8 @@ QStringList AccessibleRow::keyBindingsForAction(const QString& name) const {
     const auto cell = ShownCell();
     if (!cell || !actionNames().contains(name)) return {};
     if (name == setFocusAction()) return {Notices()->AccessKeyOf(*cell)};
-    if (name == increaseAction()) return {QStringLiteral("+")};
-    if (name == decreaseAction()) return {QStringLiteral("-")};
+    if (name == increaseAction()) return {QStringLiteral("Shift+Up")};
+    if (name == decreaseAction()) return {QStringLiteral("Shift+Down")};
     return IsHeading(*cell) ? QStringList() : QStringList{QStringLiteral("F4")};
 }
 
@@ -232,16 +255,15 @@ void AccessibleRow::doAction(const QString& name) {
 void AccessibleRow::Act(const std::shared_ptr<Cell>& cell, const QString& name) {
     const QPointer<QuillgridWidget> widget = widget_;
     Quillgrid& grid = *Grid();
-    const std::int32_t key = IsHeading(*cell) ? FoldingKey(*cell) : static_cast<std::int32_t>(KeyF4);
-    const char32_t step = name == increaseAction() ? U'+' : name == decreaseAction() ? U'-' : 0;
-    const bool opens = name != setFocusAction() && step == 0;
+    const bool steps = name == increaseAction() || name == decreaseAction();
+    const std::int32_t opener = IsHeading(*cell) ? FoldingKey(*cell) : static_cast<std::int32_t>(KeyF4);
+    const std::int32_t stepper = name == increaseAction() ? KeyUp : KeyDown;
     widget->setFocus(Qt::OtherFocusReason);
     if (!widget) return;
     cell->SetFocus();
     if (!widget || grid.Cell() != cell.get()) return; // a handler keeps the user where he is
-    char32_t typed = step;
-    if (step != 0) grid.KeyPress(typed);
-    if (opens) grid.KeyDown(key, ShiftNone);
+    if (name == setFocusAction()) return;
+    grid.KeyDown(steps ? stepper : opener, steps ? ShiftShift : ShiftNone);
 }
 
 } // namespace quillgrid::qt

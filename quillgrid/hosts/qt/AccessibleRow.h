@@ -35,9 +35,10 @@ public:
     bool isValid() const override { return Row() > 0; }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override;
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    // The one child is the pad that the cell has dropped down.
+    QAccessibleInterface* child(int index) const override;
+    int childCount() const override { return OpenPad() ? 1 : 0; }
+    int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     QString text(QAccessible::Text which) const override;
     void setText(QAccessible::Text, const QString&) override {}
@@ -78,6 +79,7 @@ private:
     /// Null once the row has gone.
     std::shared_ptr<Cell> ShownCell() const;
     QString Shown() const;
+    QAccessibleInterface* OpenPad() const;
     QVariant NumberOf(const Variant& value) const;
     QString Description(const Cell& cell) const;
     bool IsRefused(const Cell& cell) const;

@@ -5,6 +5,8 @@
 namespace quillgrid::qt {
 
 CalcPadWidget::CalcPadWidget(const QWidget& owner)
-    : PadWidget(owner), pad_({surface_, site_, metrics_, LocaleFromQt(owner.locale())}) {}
+    : PadWidget(owner), pad_({surface_, site_, metrics_, LocaleFromQt(owner.locale())}) {
+    pad_.DisplayChange.Listen([this] { TellSoon(); });
+}
 
 } // namespace quillgrid::qt

@@ -1,5 +1,6 @@
 #include "quillgrid/hosts/qt/CalculatorWidget.h"
 
+#include "quillgrid/grid/PadCommands.h"
 #include "quillgrid/hosts/qt/CalcPadWidget.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
 
@@ -22,8 +23,8 @@ std::int32_t CharacterOf(const QKeyEvent& event) {
     }
 }
 
-bool IsFormulaKey(std::int32_t keyCode) {
-    return keyCode >= 116 && keyCode <= 119; // F5 to F8
+bool IsFunctionKey(std::int32_t keyCode) {
+    return keyCode >= 116 && keyCode <= 120; // F5 to F8, and F9 for the sign
 }
 
 } // namespace
@@ -75,17 +76,28 @@ void CalculatorWidget::changeEvent(QEvent* event) {
 bool CalculatorWidget::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         auto& key = *static_cast<QKeyEvent*>(event);
-        if (IsFormulaKey(KeyCodeOf(key)) || CharacterOf(key) != 0) key.accept();
+        if (IsFunctionKey(KeyCodeOf(key)) || CharacterOf(key) != 0) key.accept();
     }
     return QWidget::event(event);
+}
+
+void CalculatorWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    pad_->FollowFocus();
+}
+
+void CalculatorWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    pad_->FollowFocus();
 }
 
 void CalculatorWidget::keyPressEvent(QKeyEvent* event) {
     std::int32_t code = KeyCodeOf(*event);
     std::int32_t character = CharacterOf(*event);
-    if (!IsFormulaKey(code) && character == 0) return QWidget::keyPressEvent(event);
+    if (!IsFunctionKey(code) && character == 0) return QWidget::keyPressEvent(event);
     event->accept();
     const QPointer<CalculatorWidget> alive(this);
+    if (RunPadCommand(pad(), code, ShiftStateOf(*event))) return;
     pad().KeyDown(code, ShiftStateOf(*event));
     if (alive && code != 0 && character != 0) pad().KeyPress(character);
 }

@@ -1,5 +1,6 @@
 #include "quillgrid/hosts/qt/CalendarWidget.h"
 
+#include "quillgrid/grid/PadCommands.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/DatePadWidget.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
@@ -18,7 +19,7 @@ qint64 DayZero() {
 }
 
 bool Navigates(std::int32_t keyCode) {
-    return keyCode >= 33 && keyCode <= 40; // page up to the arrows
+    return (keyCode >= 33 && keyCode <= 40) || keyCode == 121; // page up to the arrows; F10 opens menus
 }
 
 /// 0 for a key that types nothing.
@@ -119,11 +120,22 @@ bool CalendarWidget::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+void CalendarWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    pad_->FollowFocus();
+}
+
+void CalendarWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    pad_->FollowFocus();
+}
+
 void CalendarWidget::keyPressEvent(QKeyEvent* event) {
     std::int32_t code = KeyCodeOf(*event);
     std::int32_t character = CharacterOf(*event);
     if (!Navigates(code) && character == 0) return QWidget::keyPressEvent(event);
     event->accept();
+    if (RunPadCommand(pad(), code, ShiftStateOf(*event))) return;
     if (Navigates(code)) return pad().KeyDown(code, ShiftStateOf(*event));
     pad().KeyPress(character);
 }

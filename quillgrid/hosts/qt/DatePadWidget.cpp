@@ -8,6 +8,7 @@ DatePadWidget::DatePadWidget(const QWidget& owner)
     : PadWidget(owner),
       menu_(*this),
       pad_({surface_, site_, metrics_, clock_, theme_, menu_, LocaleFromQt(owner.locale())}) {
+    pad_.DateChange.Listen([this] { TellSoon(); });
     const Size size = pad_.RoomySize(); // later the pad makes itself as large as its font asks
     resize(size.Width, size.Height);
     pad_.Refresh();

@@ -130,8 +130,17 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+// Keys of boxes that are not there are left to the window.
+bool KeyRouter::Claims(const QKeyEvent& event) const {
+    const std::int32_t code = KeyCodeOf(event);
+    const std::int32_t shift = ShiftStateOf(event);
+    const bool menu = code == KeyF10 && shift == ShiftNone && grid_.HasMenuBox();
+    const bool close = code == KeyF4 && shift == ShiftControl && grid_.HasCloseBox();
+    return menu || close || ClaimsBeforeShortcuts(event) || grid_.IsPadShown();
+}
+
 bool KeyRouter::Override(QKeyEvent* event) {
-    if (!ClaimsBeforeShortcuts(*event) && !grid_.IsPadShown()) return false;
+    if (!Claims(*event)) return false;
     event->accept();
     return true;
 }

@@ -31,6 +31,8 @@ public:
     /// Moves the focus to the next (or previous) control of the window.
     std::function<void(bool next)> LeaveControl = [](bool) {};
 
+    /// Whether the control wants the key before any shortcut of the window does.
+    bool Claims(const QKeyEvent& event) const;
     /// True: the control used the key. Also for keys that reach the control while its edit box is hidden.
     bool KeyDown(const QKeyEvent& event);
     void KeyUp(const QKeyEvent& event);

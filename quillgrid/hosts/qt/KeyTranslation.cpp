@@ -100,7 +100,7 @@ bool ClaimsBeforeShortcuts(const QKeyEvent& event) {
     const std::int32_t code = KeyCodeOf(event);
     if (IsTyping(event)) return true;
     if (shift == ShiftAlt) return code == KeyDown;
-    if (shift == ShiftControl) return code == KeyHome || code == KeyEnd;
+    if (shift == ShiftControl) return code == KeyHome || code == KeyEnd || code == KeyUp || code == KeyDown;
     if (shift == ShiftShift) return code == KeyInsert;
     return shift == ShiftNone && (code == KeyF4 || (code >= KeyPageUp && code <= KeyDown));
 }

@@ -15,6 +15,7 @@ ListPadWidget::ListPadWidget(const QWidget& owner)
       scroll_(bar_, *this),
       pad_({surface_, *this, scroll_, site_, metrics_, clock_, theme_, LocaleFromQt(owner.locale())}) {
     bar_.setFocusPolicy(Qt::NoFocus);
+    pad_.ValueChange.Listen([this] { TellSoon(); });
     connect(&bar_, &QScrollBar::valueChanged, this, [this](int value) { pad_.ScrollTo(value); });
 }
 

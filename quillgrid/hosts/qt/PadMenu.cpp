@@ -16,6 +16,9 @@ void PadMenu::Show(Point at, const std::vector<PopupEntry>& entries, Choice chos
     QObject::connect(menu_, &QMenu::aboutToHide, menu_, &QObject::deleteLater);
     const QRect place = ToQRect(OnWidget({at.X, at.Y, at.X + 1, at.Y + 1}, pad_));
     menu_->popup(pad_.mapToGlobal(place.topLeft()));
+    for (QAction* action : menu_->actions()) { // keys begin at what holds now
+        if (action->isChecked()) menu_->setActiveAction(action);
+    }
 }
 
 // The choice, if one was made, is still on its way then.

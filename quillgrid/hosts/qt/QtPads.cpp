@@ -61,6 +61,14 @@ PadWindow& QtPads::Window(PadKind kind) {
     return *window;
 }
 
+PadWidget* QtPads::Open() const {
+    for (PadWidget* pad :
+         {static_cast<PadWidget*>(list_), static_cast<PadWidget*>(date_), static_cast<PadWidget*>(calc_)}) {
+        if (pad && pad->isVisible()) return pad;
+    }
+    return nullptr;
+}
+
 bool QtPads::IsPad(const QWidget& widget) const {
     const QWidget* top = &widget;
     while (top->parentWidget())

@@ -15,6 +15,7 @@ namespace quillgrid::qt {
 class CalcPadWidget;
 class DatePadWidget;
 class ListPadWidget;
+class PadWidget;
 
 /// The pads of one control as windows. They go when this goes, those that handle an event just then as soon
 /// as they have done so.
@@ -33,6 +34,8 @@ public:
     QGCalendar& DatePad() override;
     QGCalcpad& CalcPad() override;
     PadWindow& Window(PadKind kind) override;
+    /// The one on the screen, or null.
+    PadWidget* Open() const;
 
 private:
     QWidget& WidgetOf(PadKind kind);

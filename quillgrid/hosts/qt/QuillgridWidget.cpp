@@ -201,7 +201,8 @@ bool QuillgridWidget::event(QEvent* event) {
         host_->PressAccessKey(static_cast<QShortcutEvent*>(event)->shortcutId());
         return true;
     }
-    if (event->type() == QEvent::ShortcutOverride && ClaimsBeforeShortcuts(*static_cast<QKeyEvent*>(event))) {
+    if (event->type() == QEvent::ShortcutOverride && host_ &&
+        host_->Keys.Claims(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }

@@ -44,7 +44,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
     ConnectChildren();
     ConnectRefusals();
     ConnectEvents();
-    Notices = std::make_unique<AccessibilityNotices>(Grid, widget, *bubble_);
+    Notices = std::make_unique<AccessibilityNotices>(Grid, widget, *bubble_, Pads);
     ConnectCaptionBar();
     Grid.InitProperties();
     Container.Reported = [this](std::string_view key) {
@@ -76,7 +76,10 @@ GridPorts WidgetHost::Ports() {
             .Desktop = Desktop,
             .UserLocale = LocaleFromQt(widget_.locale()),
             .Images = &Images,
-            .Pads = &Pads};
+            .Pads = &Pads,
+            .RowsSorted = [this] {
+                if (Notices) Notices->RowsChanged();
+            }};
 }
 
 void WidgetHost::ConnectChildren() {
