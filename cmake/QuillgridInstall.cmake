@@ -22,12 +22,15 @@ if(QUILLGRID_BUILD_QT)
     quillgrid/hosts/qt/CalculatorWidget.h
     quillgrid/hosts/qt/CalendarWidget.h
     quillgrid/hosts/qt/JsonPropertyBag.h
+    quillgrid/hosts/qt/ModelBinding.h
+    quillgrid/hosts/qt/ObjectBinding.h
     quillgrid/hosts/qt/QtImageSource.h
     quillgrid/hosts/qt/QtLocale.h
     quillgrid/hosts/qt/QtPicture.h
     quillgrid/hosts/qt/QuillgridWidget.h
     quillgrid/hosts/qt/SettingsPropertyBag.h
     quillgrid/hosts/qt/VariantConversion.h
+    quillgrid/hosts/qtsql/RecordBinding.h
     quillgrid/hosts/qtsql/SqlRecord.h)
 endif()
 

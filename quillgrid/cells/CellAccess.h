@@ -70,7 +70,7 @@ public:
     static void ResolveListSelection(Cell& cell);
     /// Takes a field of a record: Null empties the cell whatever its rules say, a list then has no selection;
     /// anything else is assigned as by `SetValue`.
-    static void LoadValue(Cell& cell, Variant value);
+    QUILLGRID_EXPORT static void LoadValue(Cell& cell, Variant value);
 
 private:
     static void FreshenText(Cell& cell);
