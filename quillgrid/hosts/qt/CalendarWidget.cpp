@@ -58,8 +58,9 @@ QDate CalendarWidget::currentDate() const {
 }
 
 void CalendarWidget::setCurrentDate(QDate date) {
+    if (!date.isValid()) return;
     const qint64 day = date.toJulianDay() - DayZero();
-    if (date.isValid() && day >= FirstDay && day <= LastDay)
+    if (day >= FirstDay && day <= LastDay)
         pad().SetCurrentDate({static_cast<std::int32_t>(day)});
 }
 
