@@ -17,7 +17,7 @@ class QRectF;
 namespace quillgrid::qt {
 
 /// A picture that draws itself into a rectangle at any size and density, in the colours of the palette at
-/// hand. `QtPicture::FromImage` makes one of pixels: `grid.PaintPicture(*QtPicture::FromImage(image), {})`.
+/// hand. `FromImage` makes one of pixels; `grid.PaintPicture(*picture, {})` shows it.
 class QUILLGRID_EXPORT QtPicture : public Picture {
 public:
     using Drawing = std::function<void(QPainter&, const QRectF&, const QPalette&)>;
