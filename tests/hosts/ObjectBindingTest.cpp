@@ -86,6 +86,7 @@ TEST_F(ObjectInAForm, EveryTypeGoesToItsCellAndBack) {
         {"isMember", true, "ja", false, false},
         {"height", 1.75, "1,75", "1,8", 1.8},
         {"height", 1e300, nullptr, 2.5, 2.5},
+        {"weight", 0.1F, "0,1", "0,3", 0.3F},
         {"quota", short{-5}, "-5", 32767, short{32767}},
         {"number", -6'000'000'000LL, "-6000000000", 5'000'000'000.0, 5'000'000'000LL},
         {"serial", qulonglong{18}, "18", 19.0, 19ULL},
@@ -296,6 +297,15 @@ TEST_F(ObjectInAForm, CellsMayComeAndGo) {
     form.Grid().Clear();
     person->setProperty("name", QStringLiteral("Ida"));
     EXPECT_FALSE(binding->isDirty());
+}
+
+TEST(ObjectBinding, AFormTakesItsBindingAlong) {
+    Person person;
+    const auto form = std::make_unique<QuillgridWidget>();
+    auto* binding = new ObjectBinding(form.get(), form.get());
+    binding->setObject(&person);
+    binding->addCells();
+    EXPECT_TRUE(form->grid().Cells().Item("origin")->Locked());
 }
 
 /// Everything may end while any signal is on its way.

@@ -17,6 +17,7 @@ class Person : public QObject {
     Q_PROPERTY(int age READ age WRITE setAge NOTIFY ageChanged)
     Q_PROPERTY(bool isMember MEMBER IsMember NOTIFY isMemberChanged)
     Q_PROPERTY(double height MEMBER Height)
+    Q_PROPERTY(float weight MEMBER Weight)
     Q_PROPERTY(short quota MEMBER Quota)
     Q_PROPERTY(qlonglong number MEMBER Number)
     Q_PROPERTY(qulonglong serial MEMBER Serial)
@@ -57,6 +58,7 @@ public:
     QString Name;
     bool IsMember = false;
     double Height = 0;
+    float Weight = 0;
     short Quota = 0;
     qlonglong Number = 0;
     qulonglong Serial = 0;

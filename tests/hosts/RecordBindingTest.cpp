@@ -1,9 +1,13 @@
 #include "quillgrid/hosts/qtsql/RecordBinding.h"
 
+#include "quillgrid/hosts/qt/ModelBinding.h"
 #include "tests/hosts/BoundForm.h"
 
 #include <QDate>
+#include <QSqlDatabase>
 #include <QSqlField>
+#include <QSqlQuery>
+#include <QSqlTableModel>
 
 #include <gtest/gtest.h>
 
@@ -97,6 +101,73 @@ TEST_F(RecordInAForm, NullComesAndGoesAndFieldsCanBeSet) {
     EXPECT_TRUE(binding.setRecord({}));
     EXPECT_EQ(form.TextAt("note") + form.TextAt("active"), "");
     EXPECT_TRUE(form.At("note").Locked());
+}
+
+/// A database of its own, in memory.
+class TableInAForm : public testing::Test {
+protected:
+    TableInAForm() : database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), Name)) {
+        database.setDatabaseName(QStringLiteral(":memory:"));
+        database.open();
+        QSqlQuery query(database);
+        query.exec(QStringLiteral("create table people (id integer primary key, age int check (age < 100))"));
+        query.exec(QStringLiteral("insert into people values (1, 10), (2, 20)"));
+    }
+    ~TableInAForm() override {
+        database = {};
+        QSqlDatabase::removeDatabase(Name);
+    }
+    int StoredAge(int id) {
+        QSqlQuery query(QStringLiteral("select age from people where id = %1").arg(id), database);
+        return query.next() ? query.value(0).toInt() : -1;
+    }
+
+    static inline const QString Name = QStringLiteral("table in a form");
+    QSqlDatabase database;
+};
+
+TEST_F(TableInAForm, TheDatabaseHasTheLastWordAboutARow) {
+    BoundForm form;
+    QSqlTableModel model(nullptr, database);
+    model.setTable(QStringLiteral("people"));
+    model.setEditStrategy(QSqlTableModel::OnRowChange);
+    ASSERT_TRUE(model.select());
+    ModelBinding binding(form.Widget);
+    form.Listen(binding);
+    binding.setModel(&model);
+    binding.addCells();
+    binding.toFirst();
+    form.Show();
+    form.EnterAt("age", QStringLiteral("11"));
+    EXPECT_EQ(StoredAge(1), 10);
+    EXPECT_TRUE(binding.toNext());
+    EXPECT_EQ(StoredAge(1), 11);
+    form.TakeTold();
+    form.TypeAt("age", QStringLiteral("150"));
+    EXPECT_FALSE(binding.toPrevious());
+    EXPECT_EQ(form.TakeTold(), (Told{"dirty", "clean", "NotTaken  "}));
+    EXPECT_EQ(form.TextAt("age"), "150"); // the model has it, the database does not
+    binding.revert();
+    EXPECT_EQ(form.TextAt("age"), "20");
+    EXPECT_TRUE(binding.toPrevious());
+    EXPECT_EQ(StoredAge(2), 20);
+}
+
+TEST_F(TableInAForm, ARecordWritesItsChangedFieldsOnly) {
+    BoundForm form;
+    QSqlTableModel model(nullptr, database);
+    model.setTable(QStringLiteral("people"));
+    model.setEditStrategy(QSqlTableModel::OnManualSubmit);
+    ASSERT_TRUE(model.select());
+    RecordBinding binding(form.Widget);
+    binding.setRecord(model.record(1));
+    binding.addCells();
+    form.Show();
+    form.EnterAt("age", QStringLiteral("21"));
+    EXPECT_TRUE(model.setRecord(1, binding.record()));
+    EXPECT_TRUE(model.submitAll());
+    EXPECT_EQ(StoredAge(2), 21);
+    EXPECT_EQ(StoredAge(1), 10);
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <QColor>
 #include <QLocale>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace quillgrid::qt {
@@ -37,6 +39,13 @@ QString PlainText(const Variant& value) {
 }
 
 // To the cell.
+
+/// 0.1 as it is written, not with the digits that a double has behind it.
+Variant Shortest(float number) {
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    return QByteArray(text.data(), end - text.data()).toDouble();
+}
 
 Variant ColourForCell(const QColor& colour, bool isList) {
     if (!colour.isValid()) return Variant::Null();
@@ -183,6 +192,7 @@ std::optional<Variant> ForCell(const QVariant& source, const FieldType& type, co
     if (type.Enum.isValid()) return EnumForCell(source.toInt(), type.Enum, isList);
     switch (source.typeId()) {
     case QMetaType::QColor: return ColourForCell(source.value<QColor>(), isList);
+    case QMetaType::Float: return Shortest(source.toFloat());
     case QMetaType::QString: return TextForCell(source.toString(), cell);
     default: return VariantFromQt(source);
     }

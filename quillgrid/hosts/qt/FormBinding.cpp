@@ -1,39 +1,17 @@
 #include "quillgrid/hosts/qt/FormBinding.h"
 
 #include "quillgrid/base/Text.h"
-#include "quillgrid/hosts/qt/BoundField.h"
 #include "quillgrid/hosts/qt/CellDesign.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/FieldConversion.h"
-#include "quillgrid/hosts/qt/GridLineEdit.h"
+#include "quillgrid/hosts/qt/FormBindingParts.h"
 #include "quillgrid/hosts/qt/QtLocale.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace quillgrid::qt {
-
-namespace {
-
-QString TypedText(const QuillgridWidget& form) {
-    const auto* box = form.findChild<GridLineEdit*>();
-    return box ? box->text() : QString();
-}
-
-} // namespace
-
-struct FormBinding::Parts {
-    QPointer<QuillgridWidget> Form;
-    Locale UserLocale;
-    std::vector<Field> Fields;
-    SubmitPolicy Policy = AutoSubmit;
-    bool ToldDirty = false;
-    Connection KeyReleased;
-};
 
 FormBinding::FormBinding(QuillgridWidget* form, QObject* parent)
     : QObject(parent), parts_(std::make_unique<Parts>()) {
@@ -54,7 +32,7 @@ FormBinding::~FormBinding() {
 }
 
 QuillgridWidget* FormBinding::form() const {
-    return parts_->Form;
+    return qobject_cast<QuillgridWidget*>(parts_->Form.data()); // null too for one that is on its way out
 }
 FormBinding::SubmitPolicy FormBinding::submitPolicy() const {
     return parts_->Policy;
@@ -65,7 +43,9 @@ void FormBinding::setSubmitPolicy(SubmitPolicy policy) {
 
 bool FormBinding::addField(const QString& cell, const FieldAddress& address) {
     if (cell.isEmpty()) return false;
+    const QPointer<FormBinding> self(this);
     removeMapping(cell);
+    if (!self) return false;
     const auto field = std::make_shared<BoundField>(BoundField{FromQString(cell), address});
     parts_->Fields.push_back(field);
     show(field);
@@ -73,7 +53,7 @@ bool FormBinding::addField(const QString& cell, const FieldAddress& address) {
 }
 
 void FormBinding::addCell(const CellDesign& design) {
-    if (parts_->Form) AddCell(*parts_->Form, design);
+    if (form()) AddCell(*form(), design);
 }
 
 QStringList FormBinding::mappedCells() const {
@@ -109,7 +89,7 @@ FormBinding::Field FormBinding::fieldOf(const Cell& cell) const {
 }
 
 std::shared_ptr<Cell> FormBinding::cellOf(const BoundField& field) const {
-    return parts_->Form ? parts_->Form->grid().Cells().Find(field.Key) : nullptr;
+    return form() ? form()->grid().Cells().Find(field.Key) : nullptr;
 }
 
 bool FormBinding::differs(const BoundField& field) const {
@@ -118,8 +98,7 @@ bool FormBinding::differs(const BoundField& field) const {
 }
 
 bool FormBinding::isTypedInto(const BoundField& field) const {
-    const auto& form = parts_->Form;
-    return form && form->holdsTypedText() && form->grid().Cell() == cellOf(field).get();
+    return form() && form()->holdsTypedText() && form()->grid().Cell() == cellOf(field).get();
 }
 
 bool FormBinding::isDirty() const {
@@ -172,13 +151,13 @@ void FormBinding::writeSelections() {
 
 /// False too when the field refused what was taken over.
 bool FormBinding::takeTyped() {
-    if (!parts_->Form) return false;
+    if (!form()) return false;
     const QPointer<FormBinding> self(this);
     bool isRefused = false;
     const auto listening = connect(this, &FormBinding::refused, this, [&isRefused](Cell*, Refusal reason) {
         isRefused = isRefused || reason != NotShown;
     });
-    const bool taken = parts_->Form->commitEdit();
+    const bool taken = form()->commitEdit();
     if (!self) return false;
     disconnect(listening);
     return taken && !isRefused;
@@ -198,7 +177,7 @@ bool FormBinding::commitPending() {
 
 bool FormBinding::mayLeave() {
     const QPointer<FormBinding> self(this);
-    if (!parts_->Form) return true;
+    if (!form()) return true;
     return commitPending() && self && !isDirty();
 }
 
@@ -214,157 +193,6 @@ bool FormBinding::writeAll() {
     if (all && !finished && !tell(nullptr, NotTaken, {})) return false;
     tellDirty();
     return self && finished;
-}
-
-// To the field. False too when the binding is gone.
-
-bool FormBinding::write(const Field& field) {
-    if (field->IsWriting || !differs(*field)) return true;
-    const auto cell = cellOf(*field);
-    const QString text = ToQString(cell->Text());
-    if (!isWritable(field->Address)) return refuse(field, ReadOnly, text);
-    const auto value = FromCell(*cell, fieldType(field->Address), field->Source, parts_->UserLocale);
-    return value ? writeInto(field, *value, text) : refuse(field, NotConverted, text);
-}
-
-bool FormBinding::writeInto(const Field& field, const QVariant& value, const QString& text) {
-    const QPointer<FormBinding> self(this);
-    const QVariant before = field->Source;
-    field->IsWriting = true;
-    const bool taken = writeField(field->Address, value);
-    field->IsWriting = false;
-    if (!self || field->IsRemoved) return false;
-    return taken ? confirm(field, before, text) : refuse(field, NotTaken, text);
-}
-
-/// The field may have made something else of the value, or have ignored it.
-bool FormBinding::confirm(const Field& field, const QVariant& before, const QString& text) {
-    const auto cell = cellOf(*field);
-    if (!cell) return true;
-    const FieldType type = fieldType(field->Address);
-    const QVariant now = readField(field->Address);
-    const auto held = FromCell(*cell, type, now, parts_->UserLocale);
-    if (!held || !IsSameSource(*held, now)) {
-        if (IsSameSource(now, before)) return refuse(field, NotTaken, text);
-        return show(field);
-    }
-    field->Source = now;
-    field->Shown = CellValue(*cell);
-    field->IsWaiting = false;
-    return true;
-}
-
-bool FormBinding::refuse(const Field& field, Refusal reason, const QString& text) {
-    const QPointer<FormBinding> self(this);
-    const auto cell = cellOf(*field);
-    if (parts_->Policy == AutoSubmit && !show(field)) return false;
-    tell(cell, reason, text);
-    return false;
-}
-
-/// False when the binding is gone.
-bool FormBinding::tell(const std::shared_ptr<Cell>& cell, Refusal reason, const QString& text) {
-    const QPointer<FormBinding> self(this);
-    Q_EMIT refused(cell.get(), reason, text);
-    return self;
-}
-
-// From the field.
-
-void FormBinding::fieldsChanged(const std::function<bool(const FieldAddress&)>& concerned) {
-    const QPointer<FormBinding> self(this);
-    for (const Field& field : std::vector(parts_->Fields)) {
-        if (field->IsWriting || field->IsRemoved || (concerned && !concerned(field->Address))) continue;
-        follow(field);
-        if (!self) return;
-    }
-    tellDirty();
-}
-
-void FormBinding::follow(const Field& field) {
-    const auto cell = cellOf(*field);
-    if (!cell) return;
-    lockAsField(*field, *cell);
-    const QVariant now = readField(field->Address);
-    if (IsSameSource(now, field->Source) && field->ShownIn.lock() == cell) return;
-    if (!holdsInput(*field)) {
-        show(field);
-        return;
-    }
-    field->Source = now;
-    field->IsWaiting = true;
-    const auto held = FromCell(*cell, fieldType(field->Address), now, parts_->UserLocale);
-    if (!isTypedInto(*field) && held && IsSameSource(*held, now)) {
-        field->Shown = CellValue(*cell);
-        return;
-    }
-    Q_EMIT conflict(cell.get());
-}
-
-/// False when the binding is gone.
-bool FormBinding::show(const Field& field) {
-    const auto cell = cellOf(*field);
-    if (!cell) return true;
-    lockAsField(*field, *cell);
-    field->Source = readField(field->Address);
-    field->IsWaiting = false;
-    const bool exact = ShowInCell(*cell, field->Source, fieldType(field->Address), parts_->UserLocale);
-    field->ShownIn = cell;
-    field->Shown = CellValue(*cell);
-    return exact || tell(cell, NotShown, ToQString(cell->Text()));
-}
-
-bool FormBinding::showAll() {
-    const QPointer<FormBinding> self(this);
-    for (const Field& field : std::vector(parts_->Fields)) {
-        if (!field->IsRemoved && !show(field)) return false;
-    }
-    dropTyped();
-    return self;
-}
-
-void FormBinding::showSource() {
-    struct Lost {
-        std::shared_ptr<Cell> Held;
-        QString Text;
-    };
-    std::vector<Lost> lost;
-    for (const Field& field : parts_->Fields) {
-        if (!holdsInput(*field)) continue;
-        const auto cell = cellOf(*field);
-        lost.push_back({cell, isTypedInto(*field) ? TypedText(*parts_->Form) : ToQString(cell->Text())});
-    }
-    if (!showAll()) return;
-    for (const Lost& input : lost) {
-        if (!tell(input.Held, SourceGone, input.Text)) return;
-    }
-    tellDirty();
-}
-
-void FormBinding::revert() {
-    const QPointer<FormBinding> self(this);
-    dropSubmitted();
-    if (self && showAll()) tellDirty();
-}
-
-/// The edit box shows the value of its cell again.
-void FormBinding::dropTyped() {
-    if (!parts_->Form || !parts_->Form->holdsTypedText()) return;
-    Cell* const cell = parts_->Form->grid().Cell();
-    if (cell && fieldOf(*cell)) cell->Undo();
-}
-
-void FormBinding::unlock(BoundField& field) {
-    const auto cell = std::exchange(field.IsLockedHere, false) ? cellOf(field) : nullptr;
-    if (cell) cell->SetLocked(false);
-}
-
-void FormBinding::lockAsField(BoundField& field, Cell& cell) {
-    const bool locked = !isWritable(field.Address);
-    if (locked == field.IsLockedHere || (locked && cell.Locked())) return;
-    field.IsLockedHere = locked;
-    cell.SetLocked(locked);
-    cell.Refresh();
 }
 
 } // namespace quillgrid::qt
