@@ -199,7 +199,7 @@ TEST(KeyTable, StandAlonePadsTakeTheSameKeys) {
     EXPECT_EQ(calculator.pad().DisplayText(), "-7");
 }
 
-// A key that is added to the walk is written down, and the other way round for those that stand for clicks.
+// A key that is added to the walk is written down too.
 TEST(KeyTable, TheDocumentHasEveryKeyOfTheWalk) {
     QFile document(QStringLiteral(QUILLGRID_KEYBOARD_DOCUMENT));
     ASSERT_TRUE(document.open(QIODevice::ReadOnly | QIODevice::Text));

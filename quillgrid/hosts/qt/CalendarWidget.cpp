@@ -60,8 +60,7 @@ QDate CalendarWidget::currentDate() const {
 void CalendarWidget::setCurrentDate(QDate date) {
     if (!date.isValid()) return;
     const qint64 day = date.toJulianDay() - DayZero();
-    if (day >= FirstDay && day <= LastDay)
-        pad().SetCurrentDate({static_cast<std::int32_t>(day)});
+    if (day >= FirstDay && day <= LastDay) pad().SetCurrentDate({static_cast<std::int32_t>(day)});
 }
 
 QSize CalendarWidget::sizeHint() const {
