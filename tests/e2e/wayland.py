@@ -4,6 +4,7 @@ import os
 import sqlite3
 import sys
 import tempfile
+import time
 
 from desktop import Editor, Picture, wait_for, xdotool
 from expectations import expect, expect_changes
@@ -19,7 +20,13 @@ class NestedEditor(Editor):
 
     def wait_for_window(self):
         xdotool("mousemove", *OUTSIDE)  # the compositor learns where the pointer is when it comes in
-        wait_for("the form", lambda: len(set(self.look().part(300, 100, 600, 600))) > 8)
+        wait_for("the form", lambda: len(set(self.look().part(300, 100, 600, 600))) > 8 and self.rests())
+
+    def rests(self):
+        """Whether a moment goes by without a change: the compositor has given the window its size by then."""
+        before = self.look().part(0, 0, 900, 760)
+        time.sleep(0.5)
+        return self.look().part(0, 0, 900, 760) == before
 
     def look(self):
         return Picture("root")
