@@ -124,6 +124,26 @@ void QGCalendar::PropertyChanged(std::string_view key) {
     if (!life.expired() && !userMode_ && IsCalendarLook(key)) Refresh();
 }
 
+void QGCalendar::Configure(std::string CalendarSettings::*preset, std::string config, std::string_view key) {
+    const std::weak_ptr<bool> life = state_.Life;
+    Days().*preset = std::move(config);
+    PropertyChanged(key);
+    if (!life.expired()) SetAutoHolidays(AutoHolidays());
+}
+
+void QGCalendar::SetConfigGermany(std::string config) {
+    Configure(&CalendarSettings::ConfigGermany, std::move(config), "ConfigGermany");
+}
+void QGCalendar::SetConfigAustria(std::string config) {
+    Configure(&CalendarSettings::ConfigAustria, std::move(config), "ConfigAustria");
+}
+void QGCalendar::SetConfigSwitzerland(std::string config) {
+    Configure(&CalendarSettings::ConfigSwitzerland, std::move(config), "ConfigSwitzerland");
+}
+void QGCalendar::SetConfigEurope(std::string config) {
+    Configure(&CalendarSettings::ConfigEurope, std::move(config), "ConfigEurope");
+}
+
 bool QGCalendar::Confirm() {
     const std::weak_ptr<bool> life = state_.Life;
     DateClick.Raise();

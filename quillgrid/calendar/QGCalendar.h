@@ -136,6 +136,17 @@ public:
     void SetWorkHoliday(bool work) { state_.Days.SetWorkHoliday(work); }
     AutoHolidayConstants AutoHolidays() const { return Days().AutoHolidays; }
     void SetAutoHolidays(AutoHolidayConstants preset) { state_.Days.SetAutoHolidays(preset); }
+    /// Which rules of a preset are on: one "1" or "0" for each, in their order; what is missing is on. Loads
+    /// the rules of the present preset anew.
+    const std::string& ConfigGermany() const { return Days().ConfigGermany; }
+    void SetConfigGermany(std::string config);
+    const std::string& ConfigAustria() const { return Days().ConfigAustria; }
+    void SetConfigAustria(std::string config);
+    const std::string& ConfigSwitzerland() const { return Days().ConfigSwitzerland; }
+    void SetConfigSwitzerland(std::string config);
+    /// Of the international preset.
+    const std::string& ConfigEurope() const { return Days().ConfigEurope; }
+    void SetConfigEurope(std::string config);
 
     /// Colours that cannot be read on what they stand on are darkened or lightened on the screen.
     Colour BackColor() const { return state_.Settings.BackColor; }
@@ -201,6 +212,7 @@ private:
         field = std::move(value);
         PropertyChanged(key);
     }
+    void Configure(std::string CalendarSettings::*preset, std::string config, std::string_view key);
     CalendarNames NamesNow() const;
     void ShowMonth();
     void ShowDate();

@@ -14,10 +14,6 @@ namespace quillgrid::qt {
 
 namespace {
 
-qint64 DayZero() {
-    return QDate(1899, 12, 30).toJulianDay();
-}
-
 bool Navigates(std::int32_t keyCode) {
     return (keyCode >= 33 && keyCode <= 40) || keyCode == 121; // page up to the arrows; F10 opens menus
 }
@@ -35,12 +31,14 @@ std::int32_t CharacterOf(const QKeyEvent& event) {
 } // namespace
 
 CalendarWidget::CalendarWidget(QWidget* parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), ambientFont_(FromQFont(font())), pad_(new DatePadWidget(*this)) {
+    : CalendarProperties(parent, flags), ambientFont_(FromQFont(font())), pad_(new DatePadWidget(*this)) {
     pad_->setParent(this);
     setFocusPolicy(Qt::StrongFocus);
     pad().DateChange.Listen([this] { Q_EMIT dateChange(currentDate()); });
     pad().DateClick.Listen([this] { Q_EMIT dateClick(currentDate()); });
+    pad_->Report([this] { TellChanges(); });
     resize(sizeHint());
+    TellChanges();
 }
 
 CalendarWidget::~CalendarWidget() = default;
@@ -53,14 +51,21 @@ const QGCalendar& CalendarWidget::pad() const {
     return pad_->Pad();
 }
 
+QGCalendar& CalendarWidget::Control() const {
+    return pad_->Pad();
+}
+
 QDate CalendarWidget::currentDate() const {
-    return QDate::fromJulianDay(DayZero() + pad().CurrentDate().Day);
+    return FromControl(pad().CurrentDate());
 }
 
 void CalendarWidget::setCurrentDate(QDate date) {
-    if (!date.isValid()) return;
-    const qint64 day = date.toJulianDay() - DayZero();
-    if (day >= FirstDay && day <= LastDay) pad().SetCurrentDate({static_cast<std::int32_t>(day)});
+    const DateTime day = ToControl(date);
+    if (date.isValid() && FromControl(day) == date) pad().SetCurrentDate(day);
+}
+
+void CalendarWidget::resetCurrentDate() {
+    setCurrentDate(QDate::currentDate());
 }
 
 QSize CalendarWidget::sizeHint() const {
@@ -80,6 +85,7 @@ void CalendarWidget::FollowLook() {
     pad().SetEnabled(isEnabled());
     pad().Refresh();
     updateGeometry();
+    TellChanges();
 }
 
 void CalendarWidget::changeEvent(QEvent* event) {

@@ -1,13 +1,8 @@
 #pragma once
 
-#include "quillgrid/base/Export.h"
-
-#ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
-#include "quillgrid/calendar/QGCalendar.h"
-#endif
+#include "quillgrid/hosts/qt/CalendarProperties.h"
 
 #include <QDate>
-#include <QWidget>
 
 namespace quillgrid::qt {
 
@@ -18,9 +13,10 @@ class DatePadWidget;
 /// enabled state.
 ///
 /// A slot may delete the widget.
-class QUILLGRID_EXPORT CalendarWidget : public QWidget {
+class QUILLGRID_EXPORT CalendarWidget : public CalendarProperties {
     Q_OBJECT
-    Q_PROPERTY(QDate currentDate READ currentDate WRITE setCurrentDate NOTIFY dateChange USER true)
+    Q_PROPERTY(QDate currentDate READ currentDate WRITE setCurrentDate RESET resetCurrentDate NOTIFY
+                   dateChange USER true)
 
 public:
     explicit CalendarWidget(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
@@ -31,8 +27,11 @@ public:
     const QGCalendar& pad() const;
 
     QDate currentDate() const;
-    /// The nearest date that may be picked; an invalid date changes nothing.
+    /// The nearest date that may be picked; an invalid date, or one outside of the years 100 to
+    /// 9999, changes nothing.
     void setCurrentDate(QDate date);
+    /// Today, or the nearest date that may be picked.
+    void resetCurrentDate();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -54,6 +53,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QGCalendar& Control() const override;
     void FollowLook();
 
     Font ambientFont_;   ///< the widget's, as the calendar took it over last

@@ -14,6 +14,10 @@ DatePadWidget::DatePadWidget(const QWidget& owner)
     pad_.Refresh();
 }
 
+void DatePadWidget::Report(std::function<void()> reported) {
+    site_.Reported = [told = std::move(reported)](std::string_view) { told(); };
+}
+
 void DatePadWidget::hideEvent(QHideEvent* event) {
     PadWidget::hideEvent(event);
     pad_.Hidden();

@@ -4,6 +4,8 @@
 #include "quillgrid/hosts/qt/PadMenu.h"
 #include "quillgrid/hosts/qt/PadWidget.h"
 
+#include <functional>
+
 namespace quillgrid::qt {
 
 /// The calendar that a cell drops down.
@@ -11,6 +13,8 @@ class DatePadWidget : public PadWidget {
 public:
     explicit DatePadWidget(const QWidget& owner);
     QGCalendar& Pad() { return pad_; }
+    /// Who hears that a property was set.
+    void Report(std::function<void()> reported);
 
 protected:
     void PaintPad(Canvas& canvas, const Rect& area) override { pad_.Paint(canvas, area); }

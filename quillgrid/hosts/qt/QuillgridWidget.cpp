@@ -19,6 +19,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillgrid::qt {
 
@@ -37,13 +38,14 @@ void ClearFocusInside(const QuillgridWidget& form) {
 
 } // namespace
 
-QuillgridWidget::QuillgridWidget(QWidget* parent, Mode mode) : QWidget(parent) {
+QuillgridWidget::QuillgridWidget(QWidget* parent, Mode mode) : QuillgridProperties(parent) {
     AccessibleGrid::Install();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAcceptDrops(true);
     setAttribute(Qt::WA_OpaquePaintEvent); // the control's own background takes the place of the window's
     host_ = std::make_unique<WidgetHost>(*this, mode == UserMode);
+    TellChanges();
 }
 
 QuillgridWidget::~QuillgridWidget() {
@@ -54,6 +56,10 @@ Quillgrid& QuillgridWidget::grid() {
     return host_->Grid;
 }
 const Quillgrid& QuillgridWidget::grid() const {
+    return host_->Grid;
+}
+
+Quillgrid& QuillgridWidget::Control() const {
     return host_->Grid;
 }
 
@@ -77,7 +83,12 @@ int QuillgridWidget::messageDuration() const {
     return host_->Refusals.Duration;
 }
 void QuillgridWidget::setMessageDuration(int milliseconds) {
-    host_->Refusals.Duration = std::max(0, milliseconds);
+    const int duration = std::max(0, milliseconds);
+    if (std::exchange(host_->Refusals.Duration, duration) != duration) Q_EMIT messageDurationChanged();
+}
+
+void QuillgridWidget::resetMessageDuration() {
+    setMessageDuration(RefusalMessages::UsualDuration);
 }
 
 bool QuillgridWidget::commitEdit() {
@@ -90,10 +101,11 @@ bool QuillgridWidget::holdsTypedText() const {
 
 void QuillgridWidget::setTabPolicy(TabPolicy policy) {
     using Control = quillgrid::TabPolicy;
-    tabPolicy_ = policy;
+    if (std::exchange(tabPolicy_, policy) == policy) return;
     host_->Grid.SetTabPolicy(policy == TabWraps    ? Control::Wrap
                              : policy == TabLeaves ? Control::Leave
                                                    : Control::LeaveAtEnds);
+    Q_EMIT tabPolicyChanged();
 }
 
 QRect QuillgridWidget::onWidget(const Rect& area) const {

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "quillgrid/base/Export.h"
-
-#ifndef Q_MOC_RUN // moc cannot read the concepts of the standard headers
-#include "quillgrid/grid/Quillgrid.h"
-#endif
-
-#include <QWidget>
+#include "quillgrid/hosts/qt/QuillgridProperties.h"
 
 #include <functional>
 #include <memory>
@@ -21,9 +15,12 @@ class WidgetHost;
 /// Signals carry what the control's events carry. Their by-reference arguments are pointers, valid only
 /// during the signal, so connect them directly (the default within one thread). A slot may delete the widget;
 /// while Qt hides or resizes it only with deleteLater, as Qt looks at it afterwards.
-class QUILLGRID_EXPORT QuillgridWidget : public QWidget {
+class QUILLGRID_EXPORT QuillgridWidget : public QuillgridProperties {
     Q_OBJECT
-    Q_PROPERTY(TabPolicy tabPolicy READ tabPolicy WRITE setTabPolicy)
+    Q_PROPERTY(
+        TabPolicy tabPolicy READ tabPolicy WRITE setTabPolicy RESET resetTabPolicy NOTIFY tabPolicyChanged)
+    Q_PROPERTY(int messageDuration READ messageDuration WRITE setMessageDuration RESET resetMessageDuration
+                   NOTIFY messageDurationChanged)
 
 public:
     /// Says why typed text was refused, in the user's words; an empty answer falls back on the control's own.
@@ -63,6 +60,7 @@ public:
     /// Milliseconds after which the message goes by itself; 0 keeps it until the next key. 8000 by default.
     int messageDuration() const;
     void setMessageDuration(int milliseconds);
+    void resetMessageDuration();
 
     /// Takes over what is being typed; false when a handler keeps the user in the cell. Call it before
     /// saving.
@@ -72,6 +70,7 @@ public:
 
     TabPolicy tabPolicy() const { return tabPolicy_; }
     void setTabPolicy(TabPolicy policy);
+    void resetTabPolicy() { setTabPolicy(TabLeavesAtEnds); }
 
     /// A place of the control (`grid().ValueArea(cell)`) in the widget's coordinates.
     QRect onWidget(const Rect& area) const;
@@ -88,7 +87,18 @@ Q_SIGNALS:
     void change(quillgrid::Cell* cell);
     /// The user began to type, or what was typed was taken over or back.
     void typingChanged(bool holdsTypedText);
+    /// The cell does not accept what was typed.
     void beep();
+    /// A character on its way to the cell; another one in `*character` takes its place, 0 drops it.
+    void keyPressed(quillgrid::Cell* cell, std::int16_t* character);
+    /// A key on its way to the control, with the modifiers that are held (1 Shift, 2 Ctrl, 4 Alt); 0 in
+    /// `*keyCode` drops it.
+    void keyWentDown(quillgrid::Cell* cell, std::int16_t* keyCode, std::int16_t* shift);
+    /// A key after the control has seen it.
+    void keyWentUp(quillgrid::Cell* cell, std::int16_t* keyCode, std::int16_t* shift);
+    /// The control never emits these two by itself; they are for programs that raise the control's events.
+    void click(quillgrid::Cell* cell);
+    void dblClick(quillgrid::Cell* cell);
     /// The user moved past the first or the last cell while AllowWrap is false.
     void leaveFocus(quillgrid::Cell* cell);
     void imageClick(quillgrid::Cell* cell);
@@ -100,6 +110,8 @@ Q_SIGNALS:
     /// A property that is saved with the form was set, to an equal value perhaps; its key in a property bag.
     /// Fonts that follow the widget's change without it.
     void propertyChanged(const QString& key);
+    void tabPolicyChanged();
+    void messageDurationChanged();
 
 protected:
     bool event(QEvent* event) override;
@@ -121,6 +133,8 @@ protected:
 
 private:
     friend class WidgetHost;
+
+    Quillgrid& Control() const override;
 
     std::unique_ptr<WidgetHost> host_;
     TabPolicy tabPolicy_ = TabLeavesAtEnds;

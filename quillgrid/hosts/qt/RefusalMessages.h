@@ -17,7 +17,8 @@ public:
         : grid_(grid), owner_(owner), bubble_(bubble) {}
 
     QuillgridWidget::MessageSource Source;
-    int Duration = 8000; ///< milliseconds, 0 for ever
+    static constexpr int UsualDuration = 8000; ///< milliseconds
+    int Duration = UsualDuration;              ///< milliseconds, 0 for ever
 
     void Refused(const Cell& cell, ValidationErrConstants code);
     void Say(const Cell* cell, const QString& text);

@@ -44,12 +44,11 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
     ConnectChildren();
     ConnectRefusals();
     ConnectEvents();
+    ConnectKeys();
     Notices = std::make_unique<AccessibilityNotices>(Grid, widget, *bubble_, Pads);
     ConnectCaptionBar();
     Grid.InitProperties();
-    Container.Reported = [this](std::string_view key) {
-        if (!followingFont_) Q_EMIT widget_.propertyChanged(ToQString(key));
-    };
+    Container.Reported = [this](std::string_view key) { PropertyChanged(key); };
 }
 
 // A late focus or text change of a child must find nobody to tell.
@@ -77,9 +76,7 @@ GridPorts WidgetHost::Ports() {
             .UserLocale = LocaleFromQt(widget_.locale()),
             .Images = &Images,
             .Pads = &Pads,
-            .RowsSorted = [this] {
-                if (Notices) Notices->RowsChanged();
-            }};
+            .RowsSorted = [this] { RowsSorted(); }};
 }
 
 void WidgetHost::ConnectChildren() {
@@ -113,6 +110,21 @@ void WidgetHost::ConnectChildren() {
         Keys.FinishComposing();
         if (alive) Grid.ScrollTo(value);
     });
+}
+
+void WidgetHost::PropertyChanged(std::string_view key) {
+    if (followingFont_) return;
+    const QPointer<QuillgridWidget> alive(&widget_);
+    Q_EMIT widget_.propertyChanged(ToQString(key));
+    if (alive) widget_.TellChanges();
+}
+
+/// A form that was loaded reports no property by itself.
+void WidgetHost::RowsSorted() {
+    if (!Notices) return;
+    Notices->RowsChanged();
+    QMetaObject::invokeMethod(
+        &widget_, [this] { widget_.TellChanges(); }, Qt::QueuedConnection);
 }
 
 bool WidgetHost::Commit() {
@@ -156,6 +168,19 @@ void WidgetHost::ConnectEvents() {
     Grid.Beep.Listen([this] { Q_EMIT widget_.beep(); });
     Grid.LeaveFocus.Listen([this](Cell& cell) { Q_EMIT widget_.leaveFocus(&cell); });
     Grid.ImageClick.Listen([this](Cell& cell) { Q_EMIT widget_.imageClick(&cell); });
+    Grid.Click.Listen([this](Cell& cell) { Q_EMIT widget_.click(&cell); });
+    Grid.DblClick.Listen([this](Cell& cell) { Q_EMIT widget_.dblClick(&cell); });
+}
+
+void WidgetHost::ConnectKeys() {
+    Grid.KeyPressed.Listen(
+        [this](Cell& cell, std::int16_t& character) { Q_EMIT widget_.keyPressed(&cell, &character); });
+    Grid.KeyWentDown.Listen([this](Cell& cell, std::int16_t& code, std::int16_t& shift) {
+        Q_EMIT widget_.keyWentDown(&cell, &code, &shift);
+    });
+    Grid.KeyWentUp.Listen([this](Cell& cell, std::int16_t& code, std::int16_t& shift) {
+        Q_EMIT widget_.keyWentUp(&cell, &code, &shift);
+    });
 }
 
 void WidgetHost::ConnectCaptionBar() {
@@ -249,6 +274,7 @@ void WidgetHost::LookChanged() {
     Editor.AmbientChanged();
     Grid.Refresh();
     if (alive) Refusals.Follow();
+    if (alive) widget_.TellChanges(); // colours and fonts that follow the widget's
 }
 
 } // namespace quillgrid::qt

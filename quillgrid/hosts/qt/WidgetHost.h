@@ -62,6 +62,9 @@ private:
     void ConnectChildren();
     void ConnectRefusals();
     void ConnectEvents();
+    void ConnectKeys();
+    void PropertyChanged(std::string_view key);
+    void RowsSorted();
     void GrabAccessKeys(const std::u32string& keys);
     void ConnectCaptionBar();
     QPointF CornerOnWidget(double x, double y) const;
