@@ -94,6 +94,13 @@ if(QUILLGRID_BUILD_QT)
                       REQUIRES quillgrid-qt6 Qt6Sql)
 endif()
 
+# Where Qt's form designer looks; relative to the prefix, as everything that is installed.
+if(QUILLGRID_BUILD_DESIGNER)
+  set(QUILLGRID_DESIGNER_FOLDER ${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer CACHE STRING
+      "Folder of the plugin for Qt's form designer, below the prefix")
+  install(TARGETS quillgrid_designer LIBRARY DESTINATION ${QUILLGRID_DESIGNER_FOLDER} COMPONENT designer)
+endif()
+
 # Which headers the published ones reach is found out while installing: no list of them can be forgotten.
 install(CODE "
   set(SOURCE_FOLDERS \"${PROJECT_SOURCE_DIR};${QUILLGRID_GENERATED}\")
