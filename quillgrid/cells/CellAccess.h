@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/cells/Cell.h"
 
 #include <cstdint>
@@ -10,7 +11,7 @@
 namespace quillgrid {
 
 /// What the control and the collections do to a cell and the host does not.
-class CellAccess {
+class QUILLGRID_EXPORT CellAccess {
 public:
     static void SetIndex(Cell& cell, std::int32_t index) { cell.index_ = index; }
     static void SetKey(Cell& cell, std::string key) { cell.key_ = std::move(key); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quillgrid/base/Export.h"
 #include "quillgrid/cells/Cell.h"
 #include "quillgrid/cells/InputConversion.h"
 #include "quillgrid/grid/GridSettings.h"
@@ -10,9 +11,9 @@
 namespace quillgrid {
 
 /// Whether this user may see the cell's value.
-bool IsDataVisible(const Cell& cell, std::int32_t userLevel);
+QUILLGRID_EXPORT bool IsDataVisible(const Cell& cell, std::int32_t userLevel);
 /// Whether the user may change the cell. Code always may.
-bool IsEditable(const Cell& cell, std::int32_t userLevel);
+QUILLGRID_EXPORT bool IsEditable(const Cell& cell, std::int32_t userLevel);
 inline bool IsHeading(const Cell& cell) {
     return cell.Style() == qgcsHeader || cell.Template() == qgctGroup;
 }
@@ -25,7 +26,7 @@ inline bool IsTyped(const Cell& cell) {
 }
 
 /// What is painted: the text, or one masking character for each of its characters.
-std::string ShownText(const Cell& cell, const GridSettings& settings);
+QUILLGRID_EXPORT std::string ShownText(const Cell& cell, const GridSettings& settings);
 /// The masking character; an empty setting masks too.
 std::string MaskOf(const GridSettings& settings);
 

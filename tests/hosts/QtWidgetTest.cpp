@@ -425,8 +425,11 @@ TEST_F(QtWidget, DeletingTheWidgetInAnyOfItsSignalsIsSafe) {
         },
         [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::selChange, [w] { delete w; }); },
         [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::beep, [w] { delete w; }); },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::keyWentDown, [w] { delete w; }); },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::keyPressed, [w] { delete w; }); },
+        [](QuillgridWidget* w) { QObject::connect(w, &QuillgridWidget::keyWentUp, [w] { delete w; }); },
     };
-    const char* const texts[] = {"4.5.2026", "4.5.2026", "31.2.2026", "4.5.2026", "x"};
+    const char* const texts[] = {"4.5.2026", "4.5.2026", "31.2.2026", "4.5.2026", "x", "4", "4", "4"};
     for (std::size_t i = 0; i < std::size(connections); ++i) {
         for (const bool byLeaving : {false, true}) {
             QtForm other;

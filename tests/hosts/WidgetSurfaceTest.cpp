@@ -171,5 +171,35 @@ TEST(WidgetSurface, AboutIsOneWindowThatDoesNotWait) {
     EXPECT_EQ(widget.findChildren<QDialog*>().size(), 1);
 }
 
+/// The cursor of the edit box comes and goes.
+QImage Shown(QtForm& form) {
+    form.Before->setFocus();
+    form.Settle();
+    return form.Widget->grab().toImage();
+}
+
+// Programs dress their line edits; the one in a cell is part of the cell.
+TEST(WidgetSurface, RulesForLineEditsLeaveCellsAlone) {
+    QtForm form;
+    form.Grid().Clear();
+    form.Grid().Add({.Key = "name", .Caption = "Name", .Value = "Ulm"});
+    form.Grid().Add({.Key = "word", .Caption = "Word", .Value = "secret", .CellTemplate = qgctPassword});
+    form.Show();
+    const QString rules = QStringLiteral(
+        "QLineEdit, QLineEdit:focus { padding: 7px; border: 3px solid red; margin: 2px; font: italic 20pt;"
+        "color: blue; background: yellow; min-height: 50px; selection-background-color: red }");
+    for (const int row : {1, 2}) {
+        form.Widget->setStyleSheet({});
+        form.Widget->setFocus();
+        if (row == 2) QtForm::Press(Qt::Key_Down);
+        const QImage before = Shown(form);
+        form.Widget->setStyleSheet(rules);
+        const QImage after = Shown(form);
+        EXPECT_EQ(after, before) << row;
+    }
+    form.Widget->setStyleSheet({});
+    EXPECT_TRUE(form.Edit()->styleSheet().isEmpty());
+}
+
 } // namespace
 } // namespace quillgrid::qt

@@ -23,7 +23,9 @@ public:
     QUILLGRID_PROPERTY(QDate, minDate, MinDate, MinDate)
     /// The last day that may be picked.
     QUILLGRID_PROPERTY(QDate, maxDate, MaxDate, MaxDate)
+    /// The day with which a week begins.
     QUILLGRID_PROPERTY(DayOfWeek, firstDayOfWeek, FirstDayOfWeek, FirstDayOfWeek)
+    /// The week with which a year begins.
     QUILLGRID_PROPERTY(FirstWeekOfYear, firstWeekOfYear, FirstWeekOfYear, FirstWeekOfYear)
     /// Sundays may be picked.
     QUILLGRID_PROPERTY(bool, allowSunday, AllowSunday, AllowSunday)

@@ -1,6 +1,7 @@
 #include "quillgrid/hosts/qt/QtEditBox.h"
 
 #include "quillgrid/base/Text.h"
+#include "quillgrid/hosts/qt/BoxStyleSheet.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/GridLineEdit.h"
 #include "quillgrid/hosts/qt/QtTheme.h"
@@ -100,7 +101,10 @@ void QtEditBox::Dress() {
     palette.setColor(QPalette::Base, ToQColor(look_.Paper, owner_.palette()));
     palette.setColor(QPalette::Text, ToQColor(look_.Ink, owner_.palette()));
     edit_.setPalette(palette);
-    edit_.setFont(ToQFont(look_.TextFont, owner_.font()));
+    const QFont font = ToQFont(look_.TextFont, owner_.font());
+    edit_.setFont(font);
+    const QString rules = BoxStyleSheet(owner_, palette, font);
+    if (rules != edit_.styleSheet()) edit_.setStyleSheet(rules);
     edit_.setAlignment(BoxAlignment(look_.Alignment, owner_.isRightToLeft()));
     edit_.setReadOnly(look_.ReadOnly);
     ApplyMask();

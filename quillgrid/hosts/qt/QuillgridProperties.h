@@ -80,7 +80,9 @@ public:
     QUILLGRID_PROPERTY(QString, caption, Caption, Caption)
     /// Tooltip where no cell has its own.
     QUILLGRID_PROPERTY(QString, toolTipText, ToolTipText, TooltipText)
+    /// A form, or a list of properties.
     QUILLGRID_PROPERTY(GridStyle, gridStyle, GridStyle, Style)
+    /// The buttons of cells.
     QUILLGRID_PROPERTY(ButtonAppearance, buttonAppearance, ButtonAppearance, Appearance)
     /// The side of the labels.
     QUILLGRID_PROPERTY(LabelSide, alignment, Alignment, Alignment)
@@ -136,10 +138,13 @@ public:
     QUILLGRID_PROPERTY(QColor, labelBackColor, LabelBackColor, LabelBackColor)
     /// Behind the label of the current cell.
     QUILLGRID_PROPERTY(QColor, labelBackColorFocus, LabelBackColorFocus, LabelBackColorFocus)
+    /// The edge of the control.
     QUILLGRID_PROPERTY(BorderStyle, borderStyle, BorderStyle, BorderStyle)
     /// Pixels between the two bevels, 0 to 999.
     QUILLGRID_PROPERTY(int, borderWidth, BorderWidth, BorderWidth)
+    /// The edge around the rows.
     QUILLGRID_PROPERTY(InnerBevel, bevelInner, BevelInner, BevelInner)
+    /// The edge within the border.
     QUILLGRID_PROPERTY(OuterBevel, bevelOuter, BevelOuter, BevelOuter)
     /// Pixels, 0 to 99.
     QUILLGRID_PROPERTY(int, bevelWidth, BevelWidth, BevelWidth)
@@ -161,11 +166,15 @@ public:
     QUILLGRID_PROPERTY(HolidayPreset, autoHolidays, AutoHolidays, AutoHolidays)
     /// Kept for the program, like the next two; each cell has flags of its own.
     QUILLGRID_PROPERTY(bool, allowHoliday, AllowHoliday, AllowHoliday)
+    /// As `allowHoliday`.
     QUILLGRID_PROPERTY(bool, allowSaturday, AllowSaturday, AllowSaturday)
+    /// As `allowHoliday`.
     QUILLGRID_PROPERTY(bool, allowSunday, AllowSunday, AllowSunday)
     /// Holidays count as work days.
     QUILLGRID_PROPERTY(bool, workHoliday, WorkHoliday, WorkHoliday)
+    /// Saturdays count as work days.
     QUILLGRID_PROPERTY(bool, workSaturday, WorkSaturday, WorkSaturday)
+    /// Sundays count as work days.
     QUILLGRID_PROPERTY(bool, workSunday, WorkSunday, WorkSunday)
     /// In the calendar.
     QUILLGRID_PROPERTY(DayOfWeek, firstDayOfWeek, FirstDayOfWeek, FirstDayOfWeek)

@@ -2,7 +2,7 @@
 
 #include "quillgrid/base/ControlError.h"
 #include "quillgrid/base/Text.h"
-#include "quillgrid/cells/PropertyValue.h"
+#include "quillgrid/hosts/qt/BagValues.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/QtTheme.h"
 
@@ -113,7 +113,7 @@ void SavedProperties::TakeDefault(const Variant& kept, std::string& text) {
     text = kept.ToPlainText();
 }
 void SavedProperties::TakeDefault(const Variant& kept, quillgrid::Font& font) {
-    if (const auto kind = FontFrom(kept)) font = *kind;
+    if (const auto* found = FontIn(kept)) font = *found;
 }
 void SavedProperties::TakeDefault(const Variant& kept, DateTime& date) {
     if (const auto* day = kept.Get<DateTime>()) date = *day;
