@@ -28,6 +28,7 @@ if(QUILLGRID_BUILD_QT)
     quillgrid/hosts/qt/QtLocale.h
     quillgrid/hosts/qt/QtPicture.h
     quillgrid/hosts/qt/QuillgridWidget.h
+    quillgrid/hosts/qt/ReadyDropDowns.h
     quillgrid/hosts/qt/SettingsPropertyBag.h
     quillgrid/hosts/qt/VariantConversion.h
     quillgrid/hosts/qtsql/RecordBinding.h

@@ -1,12 +1,11 @@
 // A form beside a table of the same model: the row selected in one is the row edited in the other.
 //
 //   model_form [--picture FILE.png | --smoke]
-#include "apps/record_editor/WindowStyle.h"
+#include "examples/common/Example.h"
 
 #include "quillgrid/hosts/qt/ModelBinding.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
 
-#include <QApplication>
 #include <QDate>
 #include <QHBoxLayout>
 #include <QStandardItemModel>
@@ -87,14 +86,7 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    const QStringList arguments(argv + 1, argv + argc);
-    if (!arguments.isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    if (!arguments.isEmpty()) editor::UseFixedLook();
+    examples::Example example(argc, argv);
     PeopleWindow window;
-    window.show();
-    if (arguments.isEmpty()) return QApplication::exec();
-    QApplication::processEvents();
-    if (arguments.first() == u"--smoke") return window.works() ? 0 : 1;
-    return arguments.size() == 2 && window.grab().save(arguments.last(), "PNG") ? 0 : 2;
+    return example.Run(window, [&window] { return window.works(); });
 }
