@@ -29,9 +29,11 @@ int Example::Run(QWidget& window, const std::function<bool()>& works) {
     window.show();
     if (arguments.isEmpty()) return QApplication::exec();
     QApplication::processEvents();
-    if (arguments == QStringList(QStringLiteral("--smoke"))) return works() ? 0 : 1;
-    const bool asked = arguments.size() == 2 && arguments.first() == QStringLiteral("--picture");
-    return asked && window.grab().save(arguments.last(), "PNG") ? 0 : 2;
+    if (arguments.contains(QStringLiteral("--smoke")) && !works()) return 1;
+    const qsizetype picture = arguments.indexOf(QStringLiteral("--picture"));
+    if (picture < 0) return 0;
+    QApplication::processEvents();
+    return window.grab().save(arguments.value(picture + 1), "PNG") ? 0 : 2;
 }
 
 } // namespace quillgrid::examples
