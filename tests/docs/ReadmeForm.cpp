@@ -1,13 +1,13 @@
 // The program of the README, to the letter.
-#include <quillgrid/hosts/qt/QuillgridWidget.h>
 #include <QApplication>
+#include <quillgrid/hosts/qt/QuillgridWidget.h>
 
 int main(int argc, char* argv[]) {
     using namespace quillgrid;
     QApplication app(argc, argv);
     qt::QuillgridWidget form;
     form.grid().Add({.Key = "name", .Caption = "&Name", .Value = "Ada"});
-    form.grid().Add({.Key = "birthday", .Caption = "&Birthday", .Value = "10.12.1815", .CellTemplate = qgctDate});
+    form.grid().Add({.Key = "born", .Caption = "&Born", .Value = "10.12.1815", .CellTemplate = qgctDate});
     form.grid().Add({.Key = "fee", .Caption = "&Fee", .Value = 1250, .CellTemplate = qgctCurrency});
     form.grid().Refresh();
     form.show();
