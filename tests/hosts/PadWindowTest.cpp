@@ -66,9 +66,9 @@ public:
         const QRect value = Widget->onWidget(Widget->grid().ValueArea(*Widget->grid().Cells().Item(key)));
         return {Widget->mapToGlobal(value.topLeft()), value.size()};
     }
-    static void Click(QWidget& widget, QPoint place) {
+    static void Click(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton) {
         for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
+            QMouseEvent event(type, place, widget.mapToGlobal(place), button, button, {});
             QApplication::sendEvent(&widget, &event);
         }
     }
@@ -183,6 +183,8 @@ TEST(PadWindow, MouseAndKeysReachThePadAndTheirResultsTheCell) {
     PadForm::Click(*list, {10, row * 3 + row / 2});
     EXPECT_EQ(PadForm::Pad(), nullptr);
     EXPECT_EQ(form.Edit()->text(), QStringLiteral("d"));
+    PadForm::Click(*form.Open("list"), {10, row * 3 + row / 2}, Qt::RightButton); // any button chooses
+    EXPECT_EQ(PadForm::Pad(), nullptr);
     form.Open("price");
     PadForm::Type(QStringLiteral("116"));
     PadForm::Press(Qt::Key_F7);
@@ -194,8 +196,8 @@ TEST(PadWindow, MouseAndKeysReachThePadAndTheirResultsTheCell) {
     PadForm::Press(Qt::Key_Escape, QStringLiteral("\x1b"));
     EXPECT_EQ(form.Grid().Cells().Item("date")->Value(), Variant(DateTime{46115, 0}));
     EXPECT_EQ(form.Events,
-              (std::vector<std::string>{"select list", "change list", "validate list", "select price",
-                                        "change price", "select date", "change date"}));
+              (std::vector<std::string>{"select list", "change list", "validate list", "change list",
+                                        "select price", "change price", "select date", "change date"}));
 }
 
 /// What a slot may do while a pad is at work: take everything away.

@@ -17,7 +17,9 @@ protected:
         if (button == Qt::LeftButton) pad_.MouseDown(point);
     }
     void Moved(Point point, bool held) override { pad_.MouseMove(point, held); }
-    void Released(Point) override { pad_.MouseUp(); }
+    void Released(Point, Qt::MouseButton button) override {
+        if (button == Qt::LeftButton) pad_.MouseUp();
+    }
     void Left() override { pad_.MouseLeave(); }
 
 private:

@@ -22,7 +22,9 @@ protected:
         pad_.MouseDown(point, button == Qt::RightButton ? PadButton::Right : PadButton::Left);
     }
     void Moved(Point point, bool) override { pad_.MouseMove(point); }
-    void Released(Point point) override { pad_.MouseUp(point); }
+    void Released(Point point, Qt::MouseButton button) override {
+        if (button == Qt::LeftButton) pad_.MouseUp(point);
+    }
     void Left() override { pad_.MouseLeave(); }
     void hideEvent(QHideEvent* event) override;
 

@@ -20,7 +20,7 @@ protected:
     void PaintPad(Canvas& canvas, const Rect& area) override { pad_.Paint(canvas, area); }
     void Pressed(Point point, Qt::MouseButton) override { pad_.MouseDown(point); }
     void Moved(Point point, bool held) override { pad_.MouseMove(point, held); }
-    void Released(Point) override { pad_.MouseUp(); }
+    void Released(Point, Qt::MouseButton) override { pad_.MouseUp(); }
     void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -56,7 +56,7 @@ bool PadWidget::HasKeys() const {
 void PadWidget::Click(Point at) {
     const QPointer<PadWidget> alive(this);
     Pressed(at, Qt::LeftButton);
-    if (alive) Released(at);
+    if (alive) Released(at, Qt::LeftButton);
 }
 
 void PadWidget::TellSoon() {
@@ -103,7 +103,7 @@ void PadWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void PadWidget::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    if (event->button() == Qt::LeftButton) Released(OnControl(event->position(), *this));
+    Released(OnControl(event->position(), *this), event->button());
 }
 
 void PadWidget::leaveEvent(QEvent*) {

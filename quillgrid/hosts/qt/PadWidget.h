@@ -38,7 +38,7 @@ protected:
     virtual void PaintPad(Canvas& canvas, const Rect& area) = 0;
     virtual void Pressed(Point point, Qt::MouseButton button) = 0;
     virtual void Moved(Point point, bool held) = 0;
-    virtual void Released(Point point) = 0;
+    virtual void Released(Point point, Qt::MouseButton button) = 0;
     virtual void Left() {}
     /// Has assistive programs told what is different, when all is done.
     void TellSoon();
