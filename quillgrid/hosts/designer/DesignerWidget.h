@@ -8,15 +8,15 @@ namespace quillgrid::designer {
 
 /// What a form designer knows of one widget.
 struct DesignerWidget {
-    const char* ClassName;
-    const char* Header; ///< as programs include it
-    const char* DisplayName;
-    const char* ToolTip;
-    const char* Description;
-    const char* ObjectName; ///< of the first one in a form
-    QSize Size;             ///< of one that was just dropped, pixels
-    QIcon (*Icon)();
-    QWidget* (*Create)(QWidget* parent);
+    const char* ClassName = nullptr;
+    const char* Header = nullptr; ///< as programs include it
+    const char* DisplayName = nullptr;
+    const char* ToolTip = nullptr;
+    const char* Description = nullptr;
+    const char* ObjectName = nullptr; ///< of the first one in a form
+    QSize Size;                       ///< of one that was just dropped, pixels
+    QIcon (*Icon)() = nullptr;
+    QWidget* (*Create)(QWidget* parent) = nullptr;
 };
 
 } // namespace quillgrid::designer
