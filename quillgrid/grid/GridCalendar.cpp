@@ -1,5 +1,7 @@
 #include "quillgrid/grid/GridCalendar.h"
 
+#include "quillgrid/calendar/CalendarPropertyTable.h"
+
 namespace quillgrid {
 
 void GridCalendar::Start() {
@@ -26,17 +28,40 @@ void GridCalendar::Synchronise() {
                            .AutoHolidays = settings.AutoHolidays});
 }
 
-void GridCalendar::ShareWith(QGCalendar& pad, const Cell& cell) {
-    const GridSettings& settings = state_.Settings;
+void GridCalendar::ShareConfigWith(CalendarSettings& their) const {
     const CalendarSettings& mine = calendar_.Settings();
-    WorkCalendar& theirs = pad.Calendar();
-    CalendarSettings& their = theirs.Settings();
-    their.FirstDayOfWeek = settings.FirstDayOfWeek;
-    their.FirstWeekOfYear = settings.FirstWeekOfYear;
     their.ConfigGermany = mine.ConfigGermany;
     their.ConfigAustria = mine.ConfigAustria;
     their.ConfigSwitzerland = mine.ConfigSwitzerland;
     their.ConfigEurope = mine.ConfigEurope;
+}
+
+void GridCalendar::Read(const PropertyBag& bag) {
+    CalendarValues values;
+    ReadCalendarValues(bag, ports_.UserLocale, values);
+    CalendarSettings& mine = calendar_.Settings();
+    mine.ConfigGermany = std::move(values.Days.ConfigGermany);
+    mine.ConfigAustria = std::move(values.Days.ConfigAustria);
+    mine.ConfigSwitzerland = std::move(values.Days.ConfigSwitzerland);
+    mine.ConfigEurope = std::move(values.Days.ConfigEurope);
+    calendar_.RestoreAutoHolidays(state_.Settings.AutoHolidays);
+    if (ports_.Pads) ports_.Pads->DatePad().ReadProperties(bag);
+}
+
+void GridCalendar::Write(PropertyBag& bag) {
+    if (!ports_.Pads) return WriteCalendarValues(bag, {{}, calendar_.Settings()}, {});
+    QGCalendar& pad = ports_.Pads->DatePad();
+    ShareConfigWith(pad.Calendar().Settings());
+    pad.WriteProperties(bag);
+}
+
+void GridCalendar::ShareWith(QGCalendar& pad, const Cell& cell) {
+    const GridSettings& settings = state_.Settings;
+    WorkCalendar& theirs = pad.Calendar();
+    CalendarSettings& their = theirs.Settings();
+    their.FirstDayOfWeek = settings.FirstDayOfWeek;
+    their.FirstWeekOfYear = settings.FirstWeekOfYear;
+    ShareConfigWith(their);
     theirs.SetHolidays(calendar_.Holidays());
     theirs.SetUserDate1(calendar_.UserDate1());
     theirs.SetUserDate2(calendar_.UserDate2());

@@ -23,10 +23,16 @@ public:
     std::string Dayname(DateTime date);
     void SetCurrentDate(DateTime date);
     WorkCalendar& Calendar() { return calendar_; }
+    /// What the control's own bag does not hold: the rules that are on, and the looks of the pad.
+    void Read(const PropertyBag& bag);
+    void Write(PropertyBag& bag);
+    /// The enabled states of the rules become those of their preset, beyond the next question.
+    void Save() { calendar_.Save(); }
     /// Gives a pad the rules, flags and days of this calendar, for a cell.
     void ShareWith(QGCalendar& pad, const Cell& cell);
 
 private:
+    void ShareConfigWith(CalendarSettings& their) const;
     /// Flags and preset anew before each question, so that rules of the host last until then.
     void Synchronise();
 

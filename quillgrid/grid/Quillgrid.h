@@ -83,6 +83,13 @@ public:
     void SetCalendarDate(DateTime date);
     std::shared_ptr<class Holidays> Holidays() const;
     void SetHolidays(std::shared_ptr<class Holidays> rules);
+    /// Keeps which of the preset's rules are `Enabled` now, beyond the next question.
+    void SaveHolidays();
+    /// What `WriteProperties` does not save of the calendar, in a bag of its own: the rules of each preset
+    /// that are on, and the looks of the calendar that drops down.
+    void WriteCalendar(PropertyBag& bag) const;
+    /// What the bag lacks, or holds in an unusable form, gets its default.
+    void ReadCalendar(const PropertyBag& bag);
     /// Days from which holidays may be counted. Setting one is error 382 while a form designer shows the
     /// control.
     DateTime UserDate1() const;

@@ -33,6 +33,16 @@ void Quillgrid::SetHolidays(std::shared_ptr<class Holidays> rules) {
     core_->Dates.Calendar().SetHolidays(std::move(rules));
 }
 
+void Quillgrid::SaveHolidays() {
+    core_->Dates.Save();
+}
+void Quillgrid::WriteCalendar(PropertyBag& bag) const {
+    if (!core_->State.Terminated) core_->Dates.Write(bag);
+}
+void Quillgrid::ReadCalendar(const PropertyBag& bag) {
+    if (!core_->State.Terminated) core_->Dates.Read(bag);
+}
+
 DateTime Quillgrid::UserDate1() const {
     return core_->Dates.Calendar().UserDate1();
 }

@@ -48,6 +48,27 @@ TEST(GridCalendar, RulesOfTheHostLastUntilTheNextQuestion) {
     EXPECT_EQ(grid.Holidays()->Count(), 26);
 }
 
+// The bag of the form has no keys for them.
+TEST(GridCalendar, RulesThatAreOnAndTheLooksOfThePadHaveABagOfTheirOwn) {
+    headless::MemoryBag kept;
+    HeadlessHost host;
+    EXPECT_FALSE(host.Grid->IsWorkDay(On(2026, 1, 1)));
+    host.Grid->Holidays()->Item("Neujahr")->SetEnabled(false);
+    host.Grid->SaveHolidays();
+    EXPECT_TRUE(host.Grid->IsWorkDay(On(2026, 1, 1)));
+    EXPECT_FALSE(host.Grid->IsWorkDay(On(2026, 12, 25)));
+    host.Pads->DatePad().SetForeColorSunday(Rgb(1, 2, 3));
+    host.Grid->WriteCalendar(kept);
+    HeadlessHost other;
+    EXPECT_FALSE(other.Grid->IsWorkDay(On(2026, 1, 1)));
+    other.Grid->ReadCalendar(kept);
+    EXPECT_TRUE(other.Grid->IsWorkDay(On(2026, 1, 1)));
+    EXPECT_FALSE(other.Grid->IsWorkDay(On(2026, 12, 25)));
+    EXPECT_EQ(other.Pads->DatePad().ForeColorSunday(), Rgb(1, 2, 3));
+    other.Grid->ReadCalendar(headless::MemoryBag());
+    EXPECT_FALSE(other.Grid->IsWorkDay(On(2026, 1, 1)));
+}
+
 TEST(GridCalendar, DatesAreThoseThatTheCurrentCellAllows) {
     HeadlessHost host;
     Quillgrid& grid = *host.Grid;

@@ -129,7 +129,7 @@ QAccessibleInterface* AccessibleGrid::focusChild() const {
 }
 
 QString AccessibleGrid::text(QAccessible::Text which) const {
-    const QString own = QAccessibleWidget::text(which);
+    QString own = QAccessibleWidget::text(which);
     const Quillgrid* grid = Grid();
     if (!own.isEmpty() || !grid) return own;
     if (which == QAccessible::Name && grid->ShowCaption()) return ToQString(grid->Caption()).remove(u'&');

@@ -129,7 +129,7 @@ QAccessibleInterface* AccessiblePad::focusChild() const {
 }
 
 QString AccessiblePad::text(QAccessible::Text which) const {
-    const QString own = QAccessibleWidget::text(which);
+    QString own = QAccessibleWidget::text(which);
     if (!own.isEmpty() || !IsOpen()) return own;
     if (which == QAccessible::Name) return Name();
     return which == QAccessible::Value ? Value() : own;

@@ -15,8 +15,8 @@ constexpr std::int32_t LongestText = 32767;
 constexpr const char* WithTime = "General Date";
 
 struct TypeRow {
-    QMetaType::Type Type;
-    CellTemplateConstants Template;
+    QMetaType::Type Type = QMetaType::UnknownType;
+    CellTemplateConstants Template = qgctNone;
     std::optional<double> Min{};
     std::optional<double> Max{};
 };

@@ -3,6 +3,7 @@
 #include "quillgrid/cells/CellAccess.h"
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/MomentConversion.h"
+#include "quillgrid/hosts/qt/QtTheme.h"
 #include "quillgrid/hosts/qt/VariantConversion.h"
 #include "quillgrid/locale/Coercion.h"
 
@@ -50,7 +51,7 @@ Variant Shortest(float number) {
 Variant ColourForCell(const QColor& colour, bool isList) {
     if (!colour.isValid()) return Variant::Null();
     if (!isList) return FromQString(colour.name());
-    return static_cast<std::int32_t>(Rgb(colour.red(), colour.green(), colour.blue()));
+    return static_cast<std::int32_t>(FromQColor(colour));
 }
 
 Variant EnumForCell(int number, const QMetaEnum& names, bool isList) {

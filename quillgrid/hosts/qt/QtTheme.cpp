@@ -102,11 +102,15 @@ QColor ToQColor(Colour colour, const QPalette& palette) {
     return Shaded(index < Shades.size() ? Shades[index] : ShadeRow{QPalette::Text}, palette);
 }
 
+Colour FromQColor(const QColor& colour) {
+    const QColor rgb = colour.toRgb();
+    return Rgb(static_cast<std::uint32_t>(rgb.red()), static_cast<std::uint32_t>(rgb.green()),
+               static_cast<std::uint32_t>(rgb.blue()));
+}
+
 Colour QtTheme::Resolve(Colour colour) const {
     if (!IsSystemColour(colour)) return colour;
-    const QColor found = ToQColor(colour, widget_.palette());
-    return Rgb(static_cast<std::uint32_t>(found.red()), static_cast<std::uint32_t>(found.green()),
-               static_cast<std::uint32_t>(found.blue()));
+    return FromQColor(ToQColor(colour, widget_.palette()));
 }
 
 std::int32_t QtTheme::ScrollBarWidth() const {

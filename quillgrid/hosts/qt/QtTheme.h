@@ -29,6 +29,8 @@ private:
 
 /// A colour of the control under a palette; an unknown system colour is the window text.
 QColor ToQColor(Colour colour, const QPalette& palette);
+/// Without its transparency.
+Colour FromQColor(const QColor& colour);
 /// `share` of 1 gives `over`, 0 gives `under`.
 QColor Mixed(const QColor& under, const QColor& over, double share);
 bool IsDark(const QPalette& palette);

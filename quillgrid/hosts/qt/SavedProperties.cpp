@@ -56,9 +56,7 @@ std::string SavedProperties::ToControl(const QString& text) {
     return FromQString(text);
 }
 Colour SavedProperties::ToControl(const QColor& colour) {
-    const QColor rgb = colour.toRgb();
-    return Rgb(static_cast<std::uint32_t>(rgb.red()), static_cast<std::uint32_t>(rgb.green()),
-               static_cast<std::uint32_t>(rgb.blue()));
+    return FromQColor(colour);
 }
 quillgrid::Font SavedProperties::ToControl(const QFont& font) {
     return FromQFont(font);
