@@ -35,10 +35,16 @@ class Picture:
     """What a window shows."""
 
     def __init__(self, window):
-        run = subprocess.run(["import", "-window", str(window), "-depth", "8", "ppm:-"], capture_output=True,
-                             check=True)
-        _, size, _, self.pixels = run.stdout.split(b"\n", 3)
+        # A window that another one is just opening or closing over cannot be read for a moment.
+        read = wait_for(f"a picture of window {window}", lambda: self._read(window))
+        _, size, _, self.pixels = read.split(b"\n", 3)
         self.width, self.height = map(int, size.split())
+
+    @staticmethod
+    def _read(window):
+        run = subprocess.run(["import", "-window", str(window), "-depth", "8", "ppm:-"], capture_output=True,
+                             check=False)
+        return run.stdout if run.returncode == 0 else None
 
     def part(self, left, top, right, bottom):
         return b"".join(self.pixels[3 * (y * self.width + left):3 * (y * self.width + right)]
