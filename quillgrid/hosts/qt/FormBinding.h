@@ -33,7 +33,7 @@ class QUILLGRID_EXPORT FormBinding : public QObject {
 
 public:
     /// Input is written when its cell has taken it, or all of it by `submit()`.
-    enum SubmitPolicy { AutoSubmit, ManualSubmit };
+    enum SubmitPolicy : int { AutoSubmit, ManualSubmit };
     Q_ENUM(SubmitPolicy)
 
     enum Refusal {

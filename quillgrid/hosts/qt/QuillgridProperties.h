@@ -16,23 +16,23 @@ class QUILLGRID_EXPORT QuillgridProperties : public SavedProperties {
 
 public:
     /// A form with cells apart from each other, or rows without gaps. Another style starts at the first row.
-    enum GridStyle { FormStyle, PropertyListStyle };
+    enum GridStyle : int { FormStyle, PropertyListStyle };
     Q_ENUM(GridStyle)
 
     /// The buttons of cells; TrackButtons are flat until the mouse is over them.
-    enum ButtonAppearance { RaisedButtons, FlatButtons, TrackButtons };
+    enum ButtonAppearance : int { RaisedButtons, FlatButtons, TrackButtons };
     Q_ENUM(ButtonAppearance)
 
     /// Labels beside the values.
-    enum LabelSide { LabelsLeft, LabelsRight };
+    enum LabelSide : int { LabelsLeft, LabelsRight };
     Q_ENUM(LabelSide)
 
     /// The languages of lists and messages; DefaultLanguage is German.
-    enum TextLanguage { DefaultLanguage, English, French, Italian, Spanish, German };
+    enum TextLanguage : int { DefaultLanguage, English, French, Italian, Spanish, German };
     Q_ENUM(TextLanguage)
 
     /// The edge of the control.
-    enum BorderStyle {
+    enum BorderStyle : int {
         NoBorder,
         FlatBorder,
         SunkenBorder,
@@ -43,7 +43,7 @@ public:
     Q_ENUM(BorderStyle)
 
     /// The edge around the rows.
-    enum InnerBevel {
+    enum InnerBevel : int {
         NoInnerBevel,
         FlatInnerBevel,
         SunkenInnerBevel,
@@ -55,7 +55,7 @@ public:
     Q_ENUM(InnerBevel)
 
     /// The edge within the border.
-    enum OuterBevel {
+    enum OuterBevel : int {
         NoOuterBevel = 0,
         FlatOuterBevel = 1,
         SunkenOuterBevel = 2,

@@ -33,7 +33,7 @@ public:
     /// Where Tab and Shift+Tab lead: from cell to cell and, at the ends, to the other controls of the window;
     /// from the last cell to the first, as Enter does under AllowWrap; or to the other controls at once.
     /// Ctrl+Tab always leaves.
-    enum TabPolicy { TabLeavesAtEnds, TabWraps, TabLeaves };
+    enum TabPolicy : int { TabLeavesAtEnds, TabWraps, TabLeaves };
     Q_ENUM(TabPolicy)
 
     /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own

@@ -50,8 +50,10 @@ class QUILLGRID_EXPORT SavedProperties : public QWidget {
     Q_OBJECT
 
 public:
+    // A fixed type: what is set by name or from a file may be any number.
+
     /// The day with which a week begins; SystemDay follows the locale.
-    enum DayOfWeek {
+    enum DayOfWeek : int {
         SystemDay,
         Sunday,
         Monday,
@@ -64,11 +66,11 @@ public:
     Q_ENUM(DayOfWeek)
 
     /// The week with which a year begins; SystemWeek follows the locale.
-    enum FirstWeekOfYear { SystemWeek, WeekOfJanuary1, FirstWeekOfFourDays, FirstFullWeek };
+    enum FirstWeekOfYear : int { SystemWeek, WeekOfJanuary1, FirstWeekOfFourDays, FirstFullWeek };
     Q_ENUM(FirstWeekOfYear)
 
     /// Whose public holidays a calendar knows by itself.
-    enum HolidayPreset {
+    enum HolidayPreset : int {
         NoHolidays = 0,
         GermanHolidays = 1,
         AustrianHolidays = 2,
