@@ -2,6 +2,7 @@
 
 #include "tests/hosts/BoundForm.h"
 
+#include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 
 #include <gtest/gtest.h>
@@ -135,7 +136,7 @@ TEST_F(RowInAForm, FollowsTheRowWhereItGoes) {
     form.TakeTold();
     form.TypeAt("name", QStringLiteral("lost"));
     model->removeRow(1);
-    EXPECT_EQ(form.TakeTold(), (Told{"dirty", "SourceGone name lost", "clean"}));
+    EXPECT_EQ(form.TakeTold(), (Told{"dirty", "SourceGone name lost", "clean", "row 1"}));
     EXPECT_EQ(form.TextAt("name"), "P1"); // now in its place
     model->removeRows(1, 2);
     EXPECT_EQ(form.TextAt("name"), "P3");
@@ -161,6 +162,28 @@ TEST_F(RowInAForm, SurvivesResetsAndTheEndOfTheModel) {
     EXPECT_EQ(form.TextAt("name"), "");
     EXPECT_FALSE(binding->toFirst());
     EXPECT_TRUE(binding->submit());
+}
+
+TEST_F(RowInAForm, AFilterMayTakeTheRowThatIsWritten) {
+    QSortFilterProxyModel filtered;
+    filtered.setSourceModel(model.get());
+    filtered.setFilterRegularExpression(QStringLiteral("^P"));
+    binding->setModel(&filtered);
+    binding->setCurrentIndex(1);
+    form.TakeTold();
+    form.EnterAt("name", QStringLiteral("Zoe"));
+    EXPECT_EQ(model->index(1, 0).data(), QStringLiteral("Zoe"));
+    EXPECT_EQ(form.TextAt("name"), "P2"); // now in its place
+    EXPECT_EQ(form.TakeTold(), (Told{"dirty", "clean", "row 1"}));
+    binding->setSubmitPolicy(FormBinding::ManualSubmit);
+    form.EnterAt("name", QStringLiteral("Yan"));
+    form.EnterAt("age", QStringLiteral("77"));
+    form.TakeTold();
+    EXPECT_FALSE(binding->submit());
+    EXPECT_EQ(model->index(2, 0).data(), QStringLiteral("Yan"));
+    EXPECT_EQ(model->index(3, 1).data(), 3);
+    EXPECT_EQ(form.TakeTold(), (Told{"SourceGone age 77", "clean", "row 1"}));
+    binding->setModel(nullptr);
 }
 
 TEST_F(RowInAForm, RootsAndItemFlagsAreKept) {

@@ -183,11 +183,13 @@ bool FormBinding::mayLeave() {
 
 bool FormBinding::writeAll() {
     const QPointer<FormBinding> self(this);
+    const std::size_t lostBefore = parts_->Lost;
     bool all = true;
     for (const Field& field : std::vector(parts_->Fields)) {
         if (!field->IsRemoved) all = write(field) && all;
         if (!self) return false;
     }
+    all = all && parts_->Lost == lostBefore; // a filter may have taken the row away after its first field
     const bool finished = all && finishSubmit();
     if (!self) return false;
     if (all && !finished && !tell(nullptr, NotTaken, {})) return false;

@@ -65,7 +65,8 @@ public:
 
 public Q_SLOTS:
     /// Takes over what is being typed and writes all changed cells. False when a handler keeps the user in
-    /// the cell or a field refuses: under ManualSubmit the refused input stays in its cell.
+    /// the cell or a field refuses: under ManualSubmit the refused input stays in its cell. False too when
+    /// what is bound goes on the way, as a row does that a filter no longer lets through.
     bool submit();
     /// Takes over what is being typed; under AutoSubmit it is written too. Call it before closing or saving,
     /// then look at `isDirty`. False as `submit`.

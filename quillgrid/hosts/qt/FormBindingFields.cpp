@@ -132,10 +132,11 @@ void FormBinding::showSource() {
     };
     std::vector<Lost> lost;
     for (const Field& field : parts_->Fields) {
-        if (!holdsInput(*field)) continue;
+        if (field->IsWriting || !holdsInput(*field)) continue; // what is written got there
         const auto cell = cellOf(*field);
         lost.push_back({cell, isTypedInto(*field) ? TypedText(*form()) : ToQString(cell->Text())});
     }
+    parts_->Lost += lost.size();
     if (!showAll()) return;
     for (const Lost& input : lost) {
         if (!tell(input.Held, SourceGone, input.Text)) return;

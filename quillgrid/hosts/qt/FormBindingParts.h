@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <cstddef>
 #include <vector>
 
 namespace quillgrid::qt {
@@ -15,6 +16,7 @@ struct FormBinding::Parts {
     std::vector<Field> Fields;
     SubmitPolicy Policy = AutoSubmit;
     bool ToldDirty = false;
+    std::size_t Lost = 0; ///< how many inputs went with what was bound
     Connection KeyReleased;
 };
 

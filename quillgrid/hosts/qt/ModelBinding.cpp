@@ -9,6 +9,12 @@
 
 namespace quillgrid::qt {
 
+namespace {
+
+constexpr int Untold = -2; ///< no place of a row, nor the lack of one
+
+} // namespace
+
 ModelBinding::ModelBinding(QuillgridWidget* form, QObject* parent) : FormBinding(form, parent) {}
 
 QAbstractItemModel* ModelBinding::model() const {
@@ -119,6 +125,7 @@ void ModelBinding::showRow(int row) {
     const QPointer<ModelBinding> self(this);
     row_ = model_ && row >= 0 ? QPersistentModelIndex(model_->index(row, 0, root_)) : QPersistentModelIndex();
     place_ = currentIndex();
+    if (place_ >= 0) toldPlace_ = Untold; // another row, at the same place perhaps
     showSource();
     if (self) tellRow();
 }

@@ -50,7 +50,8 @@ public Q_SLOTS:
     bool toPrevious();
 
 Q_SIGNALS:
-    /// Another row is current, or the same one stands elsewhere.
+    /// Another row is current, which may have taken the place of one that was removed, or the same one stands
+    /// elsewhere.
     void currentIndexChanged(int row);
 
 protected:
