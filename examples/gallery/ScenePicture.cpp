@@ -25,6 +25,7 @@ public:
 
 QWidget* MakeForm(const SceneForm& form, int place) {
     auto* widget = new qt::QuillgridWidget;
+    widget->setLocale(QLocale(form.Locale));
     widget->setObjectName(QStringLiteral("form%1").arg(place));
     widget->setFixedSize(form.Size);
     widget->grid().SetLanguage(qglgEnglish);
@@ -38,7 +39,6 @@ void AddForm(QGridLayout& layout, const SceneForm& form, int place, int columns)
     const int row = place / columns * 2;
     const int column = place % columns;
     if (!form.Title.isEmpty()) layout.addWidget(new QLabel(form.Title), row, column);
-    QLocale::setDefault(QLocale(form.Locale)); // asked for once, by the new widget
     QWidget* widget = form.Make ? form.Make() : MakeForm(form, place);
     layout.addWidget(widget, row + 1, column, Qt::AlignTop | Qt::AlignLeft);
 }

@@ -62,8 +62,10 @@ public:
     static std::int32_t TypeAhead(Cell& cell, char32_t character);
     /// Makes the display text anew.
     static void RefreshText(Cell& cell) { cell.RefreshText(); }
-    /// The same where something that it depends on has changed; finds the entry of a list that was filled
-    /// after its value was set. For every `Refresh` of the control; never sets `Changed`.
+    /// Something that the display text depends on has changed.
+    static void SpoilText(Cell& cell) { cell.state_.StaleText = true; }
+    /// Makes the display text anew where it was spoilt; finds the entry of a list that was filled after its
+    /// value was set. For every `Refresh` of the control; never sets `Changed`.
     static void RefreshStaleText(Cell& cell) {
         if (cell.state_.StaleText || cell.IsList() || cell.IsBoolean()) FreshenText(cell);
     }

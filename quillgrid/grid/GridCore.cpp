@@ -57,6 +57,17 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
     State.UserMode = ports_.Container.UserMode();
 }
 
+void GridCore::SetLocale(const Locale& locale) {
+    if (State.Terminated) return;
+    Commit.CommitInPlace();
+    if (State.Terminated) return;
+    ports_.UserLocale = locale;
+    for (const auto& cell : Cells)
+        CellAccess::SpoilText(*cell);
+    State.ResortNeeded = true;
+    Refresher.Refresh();
+}
+
 void GridCore::Terminate() {
     if (State.Terminated) return;
     Events.Terminate();

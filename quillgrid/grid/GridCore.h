@@ -53,6 +53,8 @@ public:
     void Terminate();
     void FocusGained();
     void FocusLost();
+    /// What is being typed is taken over as it was read so far.
+    void SetLocale(const Locale& locale);
     /// Undo values become the present ones, or the other way round.
     void AcceptAll();
     void UndoAll();
@@ -60,7 +62,7 @@ public:
 
 private:
     QGEuro euro_;
-    const GridPorts ports_;
+    GridPorts ports_; ///< of which only the locale ever changes
 
 public:
     const GridPorts& Ports() const { return ports_; }

@@ -201,6 +201,15 @@ void Quillgrid::KeyUp(std::int32_t keyCode, std::int32_t shift) {
     core->Editor.KeyUp(keyCode, shift);
 }
 
+void Quillgrid::SetLocale(const Locale& locale) {
+    const Core core = core_;
+    core->SetLocale(locale);
+}
+
+const Locale& Quillgrid::UserLocale() const {
+    return core_->UserLocale();
+}
+
 void Quillgrid::SetTabPolicy(TabPolicy policy) {
     core_->State.Tab = policy;
 }

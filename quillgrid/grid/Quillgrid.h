@@ -295,6 +295,9 @@ public:
     bool KeyPress(char32_t& character);
     /// After the edit box has handled the key.
     void KeyUp(std::int32_t keyCode, std::int32_t shift);
+    /// How values are read and shown from now on. What is being typed is taken over first.
+    void SetLocale(const Locale& locale);
+    const Locale& UserLocale() const;
     /// Where Tab leads; a host's own choice, saved with no form.
     void SetTabPolicy(TabPolicy policy);
     /// Left button.

@@ -6,7 +6,8 @@ namespace {
 
 std::string_view With(const std::string& local, const std::string& own, std::string& extended) {
     if (own.find(local) != std::string::npos) return own;
-    const bool isKnown = extended.size() == own.size() + local.size() && extended.starts_with(own);
+    const bool isKnown = extended.size() == own.size() + local.size() && extended.starts_with(own) &&
+                         extended.ends_with(local);
     if (!isKnown) extended = own + local;
     return extended;
 }

@@ -21,8 +21,10 @@ TEST(TypedSeparators, WhatTheLocaleWritesCanBeTyped) {
 
     settings.DateSeparators = "/#"; // as long as before
     EXPECT_EQ(typed.Get().Date, "/#-");
-    settings.DateSeparators = "-/.";
-    EXPECT_EQ(typed.Get().Date, "-/.");
+    locale.DateSeparator = "~"; // likewise
+    EXPECT_EQ(typed.Get().Date, "/#~");
+    settings.DateSeparators = "~/.";
+    EXPECT_EQ(typed.Get().Date, "~/.");
     EXPECT_EQ(settings.TimeSeparators, ":");
 }
 

@@ -502,5 +502,28 @@ TEST(Qt, AFormDeletedByAPressOnItsScrollBarOutlivesThePress) {
     form.Settle();
 }
 
+TEST(QuillgridWidget, FollowsItsLocale) {
+    QtForm form;
+    form.Grid().Add({.Key = "day",
+                     .Caption = "Day",
+                     .Value = DateTime{*DayFromDate(2026, 5, 3)},
+                     .CellTemplate = qgctDate});
+    form.Grid().Add({.Key = "size", .Caption = "Size", .Value = 0.5, .CellTemplate = qgctNumber});
+    form.Show();
+    form.Edit()->selectAll();
+    QtForm::Type(QStringLiteral("4.5.2026"));
+    form.Window().setLocale(QLocale(QStringLiteral("en_US")));
+    EXPECT_EQ(form.Events, (std::vector<std::string>{"validate day", "change day"})); // read as it was typed
+    const auto day = form.Grid().Cells().Item("day");
+    EXPECT_EQ(day->Text(), "5/4/2026");
+    EXPECT_EQ(form.Edit()->text(), QStringLiteral("5/4/2026"));
+    EXPECT_EQ(form.Grid().Cells().Item("size")->Text(), "0.5");
+    form.Widget->setLocale(QLocale(QStringLiteral("ar_EG")));
+    EXPECT_TRUE(form.Widget->isRightToLeft());
+    form.Widget->unsetLocale();
+    EXPECT_FALSE(form.Widget->isRightToLeft());
+    EXPECT_EQ(day->Text(), "5/4/2026");
+}
+
 } // namespace
 } // namespace quillgrid::qt

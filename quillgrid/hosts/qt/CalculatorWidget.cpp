@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPointer>
 
 namespace quillgrid::qt {
@@ -58,6 +59,7 @@ void CalculatorWidget::FollowLook() {
     pad_->setFont(font());
     pad_->setPalette(palette());
     pad_->setLayoutDirection(layoutDirection());
+    pad_->setLocale(locale());
     pad().Refresh();
 }
 
@@ -66,6 +68,7 @@ void CalculatorWidget::changeEvent(QEvent* event) {
     switch (event->type()) {
     case QEvent::FontChange:
     case QEvent::PaletteChange:
+    case QEvent::LocaleChange:
     case QEvent::LayoutDirectionChange:
     case QEvent::StyleChange: return FollowLook();
     default: return;

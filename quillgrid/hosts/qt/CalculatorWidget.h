@@ -15,7 +15,7 @@ class CalcPadWidget;
 /// The pocket calculator by itself, in a layout or with `Qt::Popup` as a window that drops down. It follows
 /// the widget's palette, locale, direction and enabled state; its size is fixed.
 ///
-/// A slot may delete the widget.
+/// A slot may delete the widget, except while Qt gives it another look: Qt looks at it afterwards.
 class QUILLGRID_EXPORT CalculatorWidget : public QWidget {
     Q_OBJECT
 

@@ -4,10 +4,10 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/DatePadWidget.h"
 #include "quillgrid/hosts/qt/KeyTranslation.h"
-#include "quillgrid/hosts/qt/QtLocale.h"
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 
 namespace quillgrid::qt {
@@ -81,7 +81,7 @@ void CalendarWidget::FollowLook() {
     pad_->setFont(font());
     pad_->setPalette(palette());
     pad_->setLayoutDirection(layoutDirection());
-    pad().SetLocale(LocaleFromQt(locale()));
+    pad_->setLocale(locale());
     pad().SetEnabled(isEnabled());
     pad().Refresh();
     updateGeometry();

@@ -12,7 +12,7 @@ class DatePadWidget;
 /// holidays, week numbers and date ranges. It follows the widget's font, palette, locale, direction and
 /// enabled state.
 ///
-/// A slot may delete the widget.
+/// A slot may delete the widget, except while Qt gives it another look: Qt looks at it afterwards.
 class QUILLGRID_EXPORT CalendarWidget : public CalendarProperties {
     Q_OBJECT
     Q_PROPERTY(QDate currentDate READ currentDate WRITE setCurrentDate RESET resetCurrentDate NOTIFY

@@ -2,6 +2,8 @@
 
 #include "quillgrid/hosts/qt/QtLocale.h"
 
+#include <QEvent>
+
 namespace quillgrid::qt {
 
 DatePadWidget::DatePadWidget(const QWidget& owner)
@@ -16,6 +18,11 @@ DatePadWidget::DatePadWidget(const QWidget& owner)
 
 void DatePadWidget::Report(std::function<void()> reported) {
     site_.Reported = [told = std::move(reported)](std::string_view) { told(); };
+}
+
+void DatePadWidget::changeEvent(QEvent* event) {
+    PadWidget::changeEvent(event);
+    if (event->type() == QEvent::LocaleChange) pad_.SetLocale(LocaleFromQt(locale()));
 }
 
 void DatePadWidget::hideEvent(QHideEvent* event) {

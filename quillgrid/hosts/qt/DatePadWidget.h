@@ -26,6 +26,7 @@ protected:
         if (button == Qt::LeftButton) pad_.MouseUp(point);
     }
     void Left() override { pad_.MouseLeave(); }
+    void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:

@@ -5,7 +5,6 @@
 #include "quillgrid/hosts/qt/Conversions.h"
 #include "quillgrid/hosts/qt/FieldConversion.h"
 #include "quillgrid/hosts/qt/FormBindingParts.h"
-#include "quillgrid/hosts/qt/QtLocale.h"
 #include "quillgrid/hosts/qt/QuillgridWidget.h"
 
 #include <algorithm>
@@ -17,7 +16,6 @@ FormBinding::FormBinding(QuillgridWidget* form, QObject* parent)
     : QObject(parent), parts_(std::make_unique<Parts>()) {
     parts_->Form = form;
     if (!form) return;
-    parts_->UserLocale = LocaleFromQt(form->locale());
     connect(form, &QuillgridWidget::change, this, &FormBinding::cellChanged);
     connect(form, &QuillgridWidget::typingChanged, this, &FormBinding::settle);
     connect(form, &QuillgridWidget::selChange, this, &FormBinding::writeSelections);

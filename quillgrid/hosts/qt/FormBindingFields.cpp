@@ -16,6 +16,12 @@ QString TypedText(const QuillgridWidget& form) {
     return box ? box->text() : QString();
 }
 
+/// A field that is read or written may end the form.
+const Locale& LocaleOf(const QuillgridWidget* form) {
+    static const Locale none;
+    return form ? form->grid().UserLocale() : none;
+}
+
 } // namespace
 
 // To the field. False too when the binding is gone.
@@ -25,7 +31,7 @@ bool FormBinding::write(const Field& field) {
     const auto cell = cellOf(*field);
     const QString text = ToQString(cell->Text());
     if (!isWritable(field->Address)) return refuse(field, ReadOnly, text);
-    const auto value = FromCell(*cell, fieldType(field->Address), field->Source, parts_->UserLocale);
+    const auto value = FromCell(*cell, fieldType(field->Address), field->Source, LocaleOf(form()));
     return value ? writeInto(field, *value, text) : refuse(field, NotConverted, text);
 }
 
@@ -45,7 +51,7 @@ bool FormBinding::confirm(const Field& field, const QVariant& before, const QStr
     if (!cell) return true;
     const FieldType type = fieldType(field->Address);
     const QVariant now = readField(field->Address);
-    const auto held = FromCell(*cell, type, now, parts_->UserLocale);
+    const auto held = FromCell(*cell, type, now, LocaleOf(form()));
     if (!held || !IsSameSource(*held, now)) {
         if (IsSameSource(now, before)) return refuse(field, NotTaken, text);
         return show(field);
@@ -95,7 +101,7 @@ void FormBinding::follow(const Field& field) {
     }
     field->Source = now;
     field->IsWaiting = true;
-    const auto held = FromCell(*cell, fieldType(field->Address), now, parts_->UserLocale);
+    const auto held = FromCell(*cell, fieldType(field->Address), now, LocaleOf(form()));
     if (!isTypedInto(*field) && held && IsSameSource(*held, now)) {
         field->Shown = CellValue(*cell);
         return;
@@ -110,7 +116,7 @@ bool FormBinding::show(const Field& field) {
     lockAsField(*field, *cell);
     field->Source = readField(field->Address);
     field->IsWaiting = false;
-    const bool exact = ShowInCell(*cell, field->Source, fieldType(field->Address), parts_->UserLocale);
+    const bool exact = ShowInCell(*cell, field->Source, fieldType(field->Address), LocaleOf(form()));
     field->ShownIn = cell;
     field->Shown = CellValue(*cell);
     return exact || tell(cell, NotShown, ToQString(cell->Text()));

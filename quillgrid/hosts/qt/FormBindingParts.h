@@ -12,7 +12,6 @@ namespace quillgrid::qt {
 
 struct FormBinding::Parts {
     QPointer<QObject> Form;
-    Locale UserLocale;
     std::vector<Field> Fields;
     SubmitPolicy Policy = AutoSubmit;
     bool ToldDirty = false;

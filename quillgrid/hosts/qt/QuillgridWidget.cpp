@@ -235,6 +235,7 @@ void QuillgridWidget::changeEvent(QEvent* event) {
     if (!host_) return;
     switch (event->type()) {
     case QEvent::FontChange: return host_->FontChanged();
+    case QEvent::LocaleChange: return host_->LocaleChanged();
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
     case QEvent::EnabledChange:

@@ -14,7 +14,8 @@ class WidgetHost;
 ///
 /// Signals carry what the control's events carry. Their by-reference arguments are pointers, valid only
 /// during the signal, so connect them directly (the default within one thread). A slot may delete the widget;
-/// while Qt hides or resizes it only with deleteLater, as Qt looks at it afterwards.
+/// while Qt hides or resizes it, or gives it another look or locale, only with deleteLater, as Qt looks at it
+/// afterwards.
 class QUILLGRID_EXPORT QuillgridWidget : public QuillgridProperties {
     Q_OBJECT
     Q_PROPERTY(
@@ -36,10 +37,10 @@ public:
     enum TabPolicy : int { TabLeavesAtEnds, TabWraps, TabLeaves };
     Q_ENUM(TabPolicy)
 
-    /// Separators, names and date order are those of `locale()`; the language of the texts is the grid's own
-    /// `Language`. Where `locale()` writes from right to left the form is mirrored, as it is by
-    /// `setLayoutDirection`: labels at the right, values and the scroll bar at the left. The control itself
-    /// counts from the left all the same; `onWidget` says where its places are seen.
+    /// Separators, names and date order are those of `locale()`, also when it changes; the language of the
+    /// texts is the grid's own `Language`. Where `locale()` writes from right to left the form is mirrored,
+    /// as it is by `setLayoutDirection`: labels at the right, values and the scroll bar at the left. The
+    /// control itself counts from the left all the same; `onWidget` says where its places are seen.
     explicit QuillgridWidget(QWidget* parent = nullptr, Mode mode = UserMode);
     ~QuillgridWidget() override;
 

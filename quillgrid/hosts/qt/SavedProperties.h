@@ -125,7 +125,7 @@ protected:
     }
 
     /// Emits the signal of every property that is different from what was seen last; the first time it only
-    /// looks. A slot may delete the widget.
+    /// looks. A slot may delete the widget, as far as Qt allows it then.
     void TellChanges();
 
 private:

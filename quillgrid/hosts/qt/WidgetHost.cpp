@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillgrid::qt {
 
@@ -35,9 +36,7 @@ WidgetHost::WidgetHost(QuillgridWidget& widget, bool userMode)
       Refusals(Grid, widget, *bubble_),
       Focus(widget),
       Keys(Grid, *edit_, widget) {
-    if (widget.locale().textDirection() == Qt::RightToLeft &&
-        !widget.testAttribute(Qt::WA_SetLayoutDirection))
-        widget.setLayoutDirection(Qt::RightToLeft);
+    FollowDirection();
     edit_->hide();
     bar_->hide();
     bar_->setFocusPolicy(Qt::NoFocus);
@@ -267,6 +266,25 @@ void WidgetHost::ScreenChanged() {
     Metrics.Forget();
     texts_.Forget();
     LookChanged();
+}
+
+/// A direction that the program has set stays.
+void WidgetHost::FollowDirection() {
+    const bool mirrors = widget_.locale().textDirection() == Qt::RightToLeft;
+    if (mirrors && !widget_.testAttribute(Qt::WA_SetLayoutDirection)) {
+        mirroredByLocale_ = true;
+        widget_.setLayoutDirection(Qt::RightToLeft);
+    } else if (!mirrors && std::exchange(mirroredByLocale_, false)) {
+        widget_.unsetLayoutDirection();
+    }
+}
+
+void WidgetHost::LocaleChanged() {
+    const QPointer<QuillgridWidget> alive(&widget_);
+    Commit();
+    if (!alive) return;
+    Grid.SetLocale(LocaleFromQt(widget_.locale()));
+    if (alive) FollowDirection();
 }
 
 void WidgetHost::LookChanged() {

@@ -44,6 +44,7 @@ public:
     /// Fonts follow the widget's unless the form set its own.
     void FontChanged();
     void LookChanged();
+    void LocaleChanged();
     /// The shortcut of an access key came.
     void PressAccessKey(int shortcut);
     /// Takes over what is being typed or composed; false when a handler keeps the user in the cell.
@@ -70,12 +71,14 @@ private:
     QPointF CornerOnWidget(double x, double y) const;
     void TextChanged();
     void TellOfTyping();
+    void FollowDirection();
     void FollowFont(const Font& before);
     void FollowCaptionFont(const Font& before);
 
     QuillgridWidget& widget_;
     bool followingFont_ = false;
     bool toldOfTyping_ = false;
+    bool mirroredByLocale_ = false;
     std::map<int, char32_t> accessKeys_; ///< by the number of their shortcut
     PreparedTexts texts_;
 
