@@ -2,6 +2,7 @@
 
 #include "quillgrid/grid/Keys.h"
 #include "quillgrid/hosts/qt/CellAddress.h"
+#include "quillgrid/hosts/qt/DatePadWidget.h"
 #include "quillgrid/hosts/qt/QtPadWindow.h"
 #include "quillgrid/hosts/qt/ReadyDropDowns.h"
 
@@ -198,6 +199,18 @@ TEST(PadWindow, MouseAndKeysReachThePadAndTheirResultsTheCell) {
     EXPECT_EQ(form.Events,
               (std::vector<std::string>{"select list", "change list", "validate list", "change list",
                                         "select price", "change price", "select date", "change date"}));
+}
+
+TEST(PadWindow, TheCalendarWritesInTheLocaleOfItsForm) {
+    PadForm form;
+    for (const auto& [locale, month] :
+         {std::pair("de_DE", "April 2026"), std::pair("it_IT", "aprile 2026")}) {
+        form.Window().setLocale(QLocale(QString::fromLatin1(locale)));
+        auto* pad = dynamic_cast<DatePadWidget*>(form.Open("date"));
+        ASSERT_NE(pad, nullptr);
+        EXPECT_EQ(pad->Pad().View().Caption, month);
+        PadForm::Press(Qt::Key_Escape);
+    }
 }
 
 /// What a slot may do while a pad is at work: take everything away.
