@@ -359,6 +359,12 @@ void LanguageAct(MonkeyForm& form, const Step& step) {
     form.Grid()->SetLanguage(static_cast<LanguageConstants>(AnyNumber(step.A) % 8));
 }
 
+void LocaleAct(MonkeyForm& form, const Step& step) {
+    constexpr const char* Names[] = {"de-DE", "en-US", "fr-FR", "it-IT"};
+    form.OrderTouched(); // texts are sorted as they are written
+    form.Grid()->SetLocale(BuiltInLocale(Names[step.A % std::size(Names)]));
+}
+
 void CellCountAct(MonkeyForm& form, const Step& step) {
     form.OrderTouched();
     form.Grid()->SetCellCount(step.B % 64 == 0 ? AnyNumber(step.A) : static_cast<std::int32_t>(step.A % 50));
@@ -630,6 +636,7 @@ const Deed Deeds[] = {
     {"load-record", 8, 6, LoadRecordAct},
     {"add-new", 5, 5, AddNewAct},
     {"language", 4, 2, LanguageAct},
+    {"locale", 4, 2, LocaleAct},
     {"cell-count", 2, 2, CellCountAct},
     {"style", 5, 2, StyleAct},
     {"set-property", 40, 6, SetPropertyAct},
