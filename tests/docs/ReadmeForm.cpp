@@ -7,7 +7,7 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     qt::QuillgridWidget form;
     form.grid().Add({.Key = "name", .Caption = "&Name", .Value = "Ada"});
-    form.grid().Add({.Key = "born", .Caption = "&Born", .Value = "10.12.1815", .CellTemplate = qgctDate});
+    form.grid().Add({.Key = "born", .Caption = "&Born", .Value = "1815-12-10", .CellTemplate = qgctDate});
     form.grid().Add({.Key = "fee", .Caption = "&Fee", .Value = 1250, .CellTemplate = qgctCurrency});
     form.grid().Refresh();
     form.show();
