@@ -21,11 +21,17 @@ bool DropTarget::Takes(Point position) const {
 bool DropTarget::Drop(Point position, std::string_view text) {
     const auto cell = CellAt(position);
     if (!cell) return false;
+    const bool taken = Take(*cell, text);
+    if (state_.Left) seat_.Seat(); // the box was needed only to take the text
+    return taken;
+}
+
+bool DropTarget::Take(const Cell& cell, std::string_view text) {
     const FlagGuard dropping(state_.Dropping);
-    if (!selector_.Select(state_.RowOf(*cell)) || !state_.IsCurrent(*cell)) return false;
-    if (IsListOrBoolean(*cell)) {
+    if (!selector_.Select(state_.RowOf(cell)) || !state_.IsCurrent(cell)) return false;
+    if (IsListOrBoolean(cell)) {
         stepper_.TakeText(RepairUtf8(text));
-    } else if (seat_.IsSeatedOn(*cell)) {
+    } else if (seat_.IsSeatedOn(cell)) {
         seat_.Box().SetText(RepairUtf8(text));
     }
     commit_.CommitInPlace();

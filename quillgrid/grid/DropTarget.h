@@ -25,6 +25,7 @@ public:
 
 private:
     std::shared_ptr<Cell> CellAt(Point position) const;
+    bool Take(const Cell& cell, std::string_view text);
 
     GridState& state_;
     RowSelector& selector_;

@@ -10,7 +10,8 @@
 namespace quillgrid {
 
 bool EditSeat::MayShow() const {
-    if (state_.Terminated || state_.Left || !state_.UserMode || !state_.Current) return false;
+    if (state_.Terminated || !state_.UserMode || !state_.Current) return false;
+    if (state_.Left && !state_.Dropping) return false;
     return !IsHeading(*state_.Current) && IsDataVisible(*state_.Current, state_.Settings.UserLevel) &&
            state_.IsInView(state_.CurrentRow);
 }

@@ -18,7 +18,7 @@ public:
         : state_(state), box_(box), window_(window), images_(images) {}
 
     /// Places, dresses and fills the box for the current cell; hides it for headings, unseen data, rows out
-    /// of view and while the focus is elsewhere.
+    /// of view and while the focus is elsewhere, unless something is dropped.
     void Seat();
     /// The box shows the cell's text again, fully selected; what was typed is dropped.
     void Refill();

@@ -303,6 +303,24 @@ TEST_F(MouseTest, DropsAreTypedIntoTheCellUnderThem) {
     EXPECT_EQ(locked->Text(), "x");
 }
 
+TEST_F(MouseTest, DropsAreTakenAfterTheFocusHasGoneToo) {
+    Add("text", Variant("old"));
+    const auto date = Add("date", Variant("1.2.2003"), qgctDate);
+    Start();
+    Host.LeaveControl();
+    Host.Journal.Clear();
+    EXPECT_TRUE(Grid.DropText({100, 35}, "4.5."));
+    EXPECT_EQ(date->Text(), "04.05.2026");
+    EXPECT_THAT(Events(), ElementsAre("SelChange date", "ValidateCell date", "Change date"));
+    EXPECT_FALSE(Host.Box.Visible);
+    EXPECT_EQ(Host.Focus, headless::FocusPlace::Outside);
+    auto stay =
+        Grid.ValidateCellError.Connect([](Cell&, ValidationErrConstants&, bool& cancel) { cancel = true; });
+    EXPECT_TRUE(Grid.DropText({100, 35}, "99.99."));
+    EXPECT_THAT(Events(), ElementsAre("ValidateCellError date 20002"));
+    EXPECT_FALSE(Host.Box.Visible) << "nobody is there to be kept in the cell";
+}
+
 TEST_F(MouseTest, DropIsRefusedWhileAnotherCellHoldsTheUser) {
     Add("date", Variant("1.2.2003"), qgctDate);
     const auto text = Add("text", Variant("old"));
