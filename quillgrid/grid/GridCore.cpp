@@ -92,9 +92,14 @@ void GridCore::Terminate() {
 void GridCore::FocusGained() {
     if (State.Terminated || !State.UserMode) return;
     const bool edited = Seat.IsEdited();
-    State.Left = false;
+    CallBack();
     if (!Selector.Select(std::max(State.CurrentRow, 1))) return;
     if (!edited) Seat.Refill(); // selects the whole text
+}
+
+void GridCore::CallBack() {
+    State.Left = false;
+    State.CalledBack = true;
 }
 
 void GridCore::FocusLost() {
@@ -102,8 +107,9 @@ void GridCore::FocusLost() {
     Pads.Hide();
     Spin.Stop();
     const FlagGuard leaving(State.LeavingFocus);
+    State.CalledBack = false;
     const CommitResult result = Commit.Commit(); // nothing where a handler of a commit sent the focus away
-    if (result == CommitResult::Gone) return;
+    if (State.Terminated || State.CalledBack) return;
     if (result == CommitResult::Cancelled) {
         Seat.TakeFocus();
         return;
@@ -184,7 +190,7 @@ void GridCore::FocusCell(Cell& cell) {
     const auto self = shared_from_this();
     const std::int32_t row = State.RowOf(cell);
     if (row == 0 || !State.UserMode) return;
-    State.Left = false;
+    CallBack();
     if (Selector.Select(row)) Seat.TakeFocus();
 }
 

@@ -61,6 +61,8 @@ public:
     std::shared_ptr<Properties> GridSheet() { return Sheets.GridSheet(); }
 
 private:
+    void CallBack();
+
     QGEuro euro_;
     GridPorts ports_; ///< of which only the locale ever changes
 

@@ -53,6 +53,7 @@ struct GridState {
     bool ResizeBusy = false;
     bool PadOpen = false;    ///< a pad shows, or the host has dropped something down
     bool Left = false;       ///< the focus has gone: the edit box stays hidden until it is back
+    bool CalledBack = false; ///< since the focus has begun to go, a handler has sent the user back
     bool Terminated = false; ///< the control is gone; only the calls under way still see this state
 
     std::int32_t LastVisible() const;

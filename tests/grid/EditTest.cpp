@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <tuple>
 
 namespace quillgrid {
@@ -422,6 +423,45 @@ TEST_F(Edit, HandlersMaySendTheFocusElsewhereInTheMidstOfACommit) {
     EXPECT_EQ(host.Grid->Cell()->Key(), "count");
     EXPECT_FALSE(host.Box.Visible) << "nobody edits there";
     EXPECT_EQ(host.Focus, FocusPlace::Outside);
+}
+
+TEST_F(Edit, NobodyEditsAfterLeavingWhateverHandlersDoToTheCell) {
+    const std::function<void(Cell&)> deeds[] = {
+        [&](Cell& cell) { host.Grid->Cells().Remove(cell.Key()); },
+        [&](Cell& cell) {
+            cell.SetVisible(false);
+            host.Grid->SetSorted(true);
+            host.Grid->Refresh();
+        },
+    };
+    for (const auto& deed : deeds) {
+        SCOPED_TRACE(&deed - deeds);
+        const auto changes = host.Grid->Change.Connect([&](Cell& cell) { deed(cell); });
+        At("name").SetFocus();
+        host.Type("Bob");
+        host.LeaveControl();
+        EXPECT_NE(host.Grid->Cell()->Key(), "name");
+        EXPECT_FALSE(host.Box.Visible);
+        host.Grid->Refresh();
+        EXPECT_FALSE(host.Box.Visible);
+        if (!host.Grid->Cells().Find("name")) Add("name", Variant("Ann"), qgctNone);
+        host.Grid->Refresh();
+        host.EnterControl();
+    }
+}
+
+TEST_F(Edit, HandlersMaySendTheUserBackWhoIsJustLeaving) {
+    for (const char* where : {"name", "count"}) {
+        SCOPED_TRACE(where);
+        const auto changes = host.Grid->Change.Connect([&](Cell&) { At(where).SetFocus(); });
+        GoTo("name");
+        host.Type("Bob");
+        host.Type(where);
+        host.LeaveControl();
+        EXPECT_EQ(host.Grid->Cell()->Key(), where);
+        EXPECT_EQ(host.Focus, FocusPlace::EditBox);
+        EXPECT_TRUE(host.Box.Visible);
+    }
 }
 
 TEST_F(Edit, DoubleClickIsF4WhereThereIsAButton) {
