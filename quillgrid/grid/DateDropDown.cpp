@@ -3,6 +3,7 @@
 #include "quillgrid/calendar/QGCalendar.h"
 #include "quillgrid/cells/CellAccess.h"
 #include "quillgrid/locale/Coercion.h"
+#include "quillgrid/locale/DateReader.h"
 
 namespace quillgrid {
 
@@ -16,9 +17,12 @@ DateTime Day(std::int32_t year, std::int32_t month, std::int32_t day) {
     return {*DayFromParts(year, month, day), 0};
 }
 
-DateTime BoundOr(const Variant& bound, DateTime otherwise) {
-    const auto* date = bound.Get<DateTime>();
-    return date ? *date : otherwise;
+/// A text that reads as a date is one, as it is for what is typed; a number is none.
+DateTime BoundOr(const Variant& bound, DateTime otherwise, const Locale& locale) {
+    if (const auto* date = bound.Get<DateTime>()) return *date;
+    const auto* text = bound.Get<std::string>();
+    const auto read = text ? RecogniseDateTime(*text, locale) : std::nullopt;
+    return read ? read->Value : otherwise;
 }
 
 } // namespace
@@ -41,8 +45,8 @@ void DateDropDown::SetDates(const Cell& cell) {
     pad.SetMaxDate(Day(9999, 12, 31));
     const auto date = ToDateTime(CellAccess::StoredValue(cell), locale_);
     pad.SetCurrentDate(date ? *date : DateTime{time_.Now().Day, 0});
-    pad.SetMinDate(BoundOr(cell.Min(), Day(100, 1, 1)));
-    pad.SetMaxDate(BoundOr(cell.Max(), Day(9999, 1, 1)));
+    pad.SetMinDate(BoundOr(cell.Min(), Day(100, 1, 1), locale_));
+    pad.SetMaxDate(BoundOr(cell.Max(), Day(9999, 1, 1), locale_));
 }
 
 void DateDropDown::Listen() {

@@ -274,6 +274,27 @@ TEST_F(Pad, BoundsOfACellDoNotMoveTheDateOfTheNext) {
     EXPECT_TRUE(other.Value().IsNull());
 }
 
+TEST_F(Pad, BoundsOfTheCalendarAreDatesHoweverTheyAreWritten) {
+    const struct {
+        Variant Min, Max;
+        DateTime Least, Most;
+    } cases[] = {
+        {Variant("1.4.2026"), Variant("30.04.2026"), Date(2026, 4, 1), Date(2026, 4, 30)},
+        {Variant("soon"), Variant(""), Date(100, 1, 1), Date(9999, 1, 1)},
+        {Variant(46000), Variant("46500"), Date(100, 1, 1), Date(9999, 1, 1)},
+        {Variant::Null(), Variant(Date(2026, 4, 3)), Date(100, 1, 1), Date(2026, 4, 3)},
+    };
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(&expected - cases);
+        At("date").SetMin(expected.Min);
+        At("date").SetMax(expected.Max);
+        Open("date");
+        EXPECT_EQ(host.Pads->DatePad().MinDate(), expected.Least);
+        EXPECT_EQ(host.Pads->DatePad().MaxDate(), expected.Most);
+        host.Press(KeyF4);
+    }
+}
+
 TEST_F(Pad, NothingStaysOpenLongerThanItsCellIsLookedAt) {
     const struct {
         const char* Name;
