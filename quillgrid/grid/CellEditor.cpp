@@ -145,7 +145,7 @@ void CellEditor::PressEscape(const std::shared_ptr<Cell>& cell) {
     if (!state_.Settings.AllowEscape || !IsEditable(*cell, state_.Settings.UserLevel)) return;
     cell->Undo();
     seat_.Refill();
-    refresh_.Refresh();
+    cell->Refresh();
 }
 
 bool CellEditor::TypeIntoList(const Cell& cell, char32_t character) {

@@ -4,7 +4,6 @@
 #include "quillgrid/grid/CellDropDown.h"
 #include "quillgrid/grid/EditSeat.h"
 #include "quillgrid/grid/GridEvents.h"
-#include "quillgrid/grid/GridRefresh.h"
 #include "quillgrid/grid/GridState.h"
 #include "quillgrid/grid/GroupFolding.h"
 #include "quillgrid/grid/Navigator.h"
@@ -22,7 +21,6 @@ public:
         CellCommit& Commit;
         class Navigator& Navigator;
         ValueStepper& Stepper;
-        GridRefresh& Refresh;
         GroupFolding& Folding;
         PadKeys& Pads;
         CellDropDown& DropDown;
@@ -36,7 +34,6 @@ public:
           commit_(partners.Commit),
           navigator_(partners.Navigator),
           stepper_(partners.Stepper),
-          refresh_(partners.Refresh),
           folding_(partners.Folding),
           pads_(partners.Pads),
           dropDown_(partners.DropDown),
@@ -78,7 +75,6 @@ private:
     CellCommit& commit_;
     Navigator& navigator_;
     ValueStepper& stepper_;
-    GridRefresh& refresh_;
     GroupFolding& folding_;
     PadKeys& pads_;
     CellDropDown& dropDown_;

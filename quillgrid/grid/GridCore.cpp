@@ -49,8 +49,8 @@ GridCore::GridCore(const GridPorts& ports, PublishedEvents& events)
       Mouse(State, {Selector, DropDown, Pads, Spin, Folding, Events, Repaint}, ports_.Window,
             ports_.Container, ports_.Images),
       PointerKeys(State, Mouse, Stepper, Navigator, Events),
-      Editor(State, Seat, {Commit, Navigator, Stepper, Refresher, Folding, PadKeys, DropDown, PointerKeys},
-             Events, ports_.UserLocale),
+      Editor(State, Seat, {Commit, Navigator, Stepper, Folding, PadKeys, DropDown, PointerKeys}, Events,
+             ports_.UserLocale),
       Drops(State, Selector, Commit, Stepper, Seat),
       Records(State, Cells, Seat, Repaint),
       Painter(State, Groups, ports_.Images) {

@@ -163,6 +163,24 @@ TEST_F(Edit, EscapeReturnsToTheLastCommittedValue) {
     EXPECT_EQ(At("name").Text(), "Bob");
 }
 
+TEST_F(Edit, EscapeRepaintsItsOwnRowAndRefreshesNothingElse) {
+    GoTo("name");
+    At("name").SetValue(Variant("changed"));
+    At("flag").SetVisible(false);
+    host.Grid->SetSorted(true); // seen after the next Refresh
+    host.Grid->SetSilent(true);
+    host.Journal.Clear();
+    host.Press(KeyEscape);
+    EXPECT_EQ(host.Box.Text(), "Ann");
+    EXPECT_THAT(Taken(), IsEmpty()) << "rows of a silent control wait";
+    EXPECT_TRUE(host.Grid->Silent());
+    EXPECT_EQ(host.Grid->RowCount(), 7);
+    host.Grid->SetSilent(false);
+    host.Press(KeyEscape);
+    EXPECT_THAT(Taken(), ElementsAre("repaint 10,28 - 289,46"));
+    EXPECT_EQ(host.Grid->RowCount(), 7);
+}
+
 TEST_F(Edit, LeavingTheControlCommitsAndHidesTheBoxUntilTheFocusIsBack) {
     GoTo("name");
     host.Type("Bob");
