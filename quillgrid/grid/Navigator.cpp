@@ -9,24 +9,25 @@ namespace quillgrid {
 void Navigator::NextCell() {
     if (state_.CurrentRow < state_.RowCount()) {
         selector_.Select(state_.CurrentRow + 1);
-    } else {
-        PastTheEnd(1);
+    } else if (MayWrap()) {
+        selector_.Select(1);
     }
 }
 
 void Navigator::PreviousCell() {
     if (state_.CurrentRow > 1) {
         selector_.Select(state_.CurrentRow - 1);
-    } else {
-        PastTheEnd(state_.RowCount());
+    } else if (MayWrap()) {
+        selector_.Select(state_.RowCount());
     }
 }
 
-void Navigator::PastTheEnd(std::int32_t wrapTo) {
+bool Navigator::MayWrap() {
     const auto cell = state_.Current;
-    if (!cell || commit_.CommitInPlace() != CommitResult::Done) return;
-    if (!state_.Settings.AllowWrap) return events_.LeaveFocus(*cell);
-    selector_.Select(wrapTo);
+    if (!cell || commit_.CommitInPlace() != CommitResult::Done) return false;
+    if (state_.Settings.AllowWrap) return true;
+    events_.LeaveFocus(*cell);
+    return false;
 }
 
 bool Navigator::NextByTab(bool backwards) {
@@ -38,7 +39,7 @@ bool Navigator::NextByTab(bool backwards) {
         return true;
     }
     if (state_.Tab == TabPolicy::LeaveAtEnds) return !CommitBeforeLeaving();
-    PastTheEnd(CellBeyond(backwards ? state_.RowCount() + 1 : 0, step));
+    if (MayWrap()) selector_.Select(CellBeyond(backwards ? state_.RowCount() + 1 : 0, step));
     return true;
 }
 

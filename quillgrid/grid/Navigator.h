@@ -31,7 +31,8 @@ public:
     void ScrollTo(std::int32_t firstVisibleRow);
 
 private:
-    void PastTheEnd(std::int32_t wrapTo);
+    /// Commits at an end; the rows may be others afterwards.
+    bool MayWrap();
     std::int32_t CellBeyond(std::int32_t row, std::int32_t step) const;
     std::int32_t CurrentAfterScroll(std::int32_t first) const;
     bool CommitBeforeLeaving();

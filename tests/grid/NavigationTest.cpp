@@ -71,6 +71,19 @@ TEST_F(Navigate, WithoutWrapTheEndsCommitAndReportLeaving) {
     EXPECT_THAT(host.Journal.Entries(), Not(Contains("LeaveFocus 1")));
 }
 
+TEST_F(Navigate, WrapsToTheRowThatIsLastAfterTheCommit) {
+    auto changes = host.Grid->Change.Connect([&](Cell&) { host.Grid->Cells().Remove("12"); });
+    host.Type("x");
+    host.Press(quillgrid::KeyUp);
+    EXPECT_THAT(Place(), ElementsAre(11, 7));
+    host.Grid->Cells().Item("1")->SetFocus();
+    host.Grid->SetTabPolicy(TabPolicy::Wrap);
+    changes = host.Grid->Change.Connect([&](Cell&) { host.Grid->Cells().Remove("11"); });
+    host.Type("y");
+    EXPECT_TRUE(host.Press(KeyTab, ShiftShift));
+    EXPECT_THAT(Place(), ElementsAre(10, 6));
+}
+
 TEST_F(Navigate, PagesHomeAndEnd) {
     host.Press(KeyPageDown);
     EXPECT_THAT(Place(), ElementsAre(6, 2));
