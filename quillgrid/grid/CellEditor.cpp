@@ -205,7 +205,7 @@ bool CellEditor::IsFull(const Cell& cell) const {
 }
 
 bool CellEditor::IsAllSelected() const {
-    return seat_.Box().SelectionLength() >= CharacterCount(seat_.Text());
+    return !seat_.IsSeated() || seat_.Box().SelectionLength() >= CharacterCount(seat_.Text());
 }
 
 void CellEditor::KeyUp(std::int32_t keyCode, std::int32_t shift) {

@@ -253,6 +253,19 @@ TEST_F(Pad, WhatTheUserMayNotChangeIsOnlyShown) {
     EXPECT_FALSE(host.Grid->Changed());
 }
 
+TEST_F(Pad, SpaceOpensACellWhoseDataIsHiddenWhateverWasSelectedBefore) {
+    At("city").SetDataVisible(false);
+    At("date").SetFocus();
+    host.Box.Select(1, 1);
+    At("city").SetFocus();
+    EXPECT_FALSE(host.Box.Visible);
+    host.Journal.Clear();
+    host.Type(" ");
+    EXPECT_THAT(Taken(), ElementsAre("open list at 1051,582"));
+    host.Press(KeyEnter);
+    EXPECT_EQ(At("city").Text(), "Bonn");
+}
+
 TEST_F(Pad, BoundsOfACellDoNotMoveTheDateOfTheNext) {
     At("date").SetMin(Variant(Date(2026, 4, 1)));
     At("date").SetMax(Variant(Date(2026, 4, 10)));
