@@ -47,6 +47,7 @@ void DateDropDown::SetDates(const Cell& cell) {
     pad.SetCurrentDate(date ? *date : DateTime{time_.Now().Day, 0});
     pad.SetMinDate(BoundOr(cell.Min(), Day(100, 1, 1), locale_));
     pad.SetMaxDate(BoundOr(cell.Max(), Day(9999, 1, 1), locale_));
+    dates_.Calendar().SetCurrentDate(pad.CurrentDate());
 }
 
 void DateDropDown::Listen() {
@@ -70,11 +71,11 @@ void DateDropDown::KeyPress(std::int32_t& character) {
 
 void DateDropDown::DateChanged() {
     if (!results_.Pads.IsShown(PadKind::Date)) return; // it is only being prepared
+    const DateTime date = results_.Pads.Factory().DatePad().CurrentDate();
+    dates_.Calendar().SetCurrentDate(date);
     const auto cell = results_.Target();
     if (!cell) return;
-    const DateTime date = results_.Pads.Factory().DatePad().CurrentDate();
     cell->SetValue(Variant(date));
-    dates_.Calendar().SetCurrentDate(date);
     for (const auto& each : cells_) {
         CellAccess::SetChanged(*each, true);
         CellAccess::SetErrorCode(*each, qgErrNone);

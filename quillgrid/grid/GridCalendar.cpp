@@ -56,6 +56,7 @@ void GridCalendar::Write(PropertyBag& bag) {
 }
 
 void GridCalendar::ShareWith(QGCalendar& pad, const Cell& cell) {
+    Synchronise();
     const GridSettings& settings = state_.Settings;
     WorkCalendar& theirs = pad.Calendar();
     CalendarSettings& their = theirs.Settings();

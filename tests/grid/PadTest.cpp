@@ -287,6 +287,30 @@ TEST_F(Pad, BoundsOfACellDoNotMoveTheDateOfTheNext) {
     EXPECT_TRUE(other.Value().IsNull());
 }
 
+TEST_F(Pad, CalendarDateIsTheDateThatTheCalendarShows) {
+    At("date").SetAllowSunday(false);
+    At("date").SetFocus();
+    host.Grid->IsWorkDay(Date(2020, 1, 1));
+    Open("date");
+    EXPECT_EQ(host.Grid->CalendarDate(), Date(2026, 4, 2));
+    host.Press(KeyRight);
+    EXPECT_EQ(host.Grid->CalendarDate(), Date(2026, 4, 3));
+    auto& other = Add("other", Variant(Date(2026, 4, 4)), qgctDate);
+    other.SetButton(qgbtClock);
+    host.Grid->Refresh();
+    Open("other");
+    EXPECT_EQ(host.Grid->CalendarDate(), Date(2026, 4, 4));
+    host.Press(KeyRight);
+    EXPECT_EQ(host.Grid->CalendarDate(), Date(2026, 4, 5)) << "a Sunday, which this cell takes";
+    EXPECT_EQ(other.Text(), "05.04.2026");
+    host.Press(KeyF4);
+    other.SetEnabled(false); // the calendar is not locked, only what it says is not taken
+    Open("other");
+    host.Press(KeyRight);
+    EXPECT_EQ(host.Grid->CalendarDate(), Date(2026, 4, 6));
+    EXPECT_EQ(other.Text(), "05.04.2026");
+}
+
 TEST_F(Pad, BoundsOfTheCalendarAreDatesHoweverTheyAreWritten) {
     const struct {
         Variant Min, Max;
