@@ -98,9 +98,10 @@ CommitResult CellCommit::Finish(const std::shared_ptr<Cell>& cell, bool cancelle
 }
 
 CommitResult CellCommit::KeepInCell(const Cell& cell) {
-    if (!state_.IsCurrent(cell)) return CommitResult::Gone;
-    seat_.Refill();
-    seat_.KeepFocus();
+    if (state_.IsCurrent(cell)) {
+        seat_.Refill();
+        seat_.KeepFocus();
+    } // otherwise a handler has sent the user to another cell, and that is where to stay
     return CommitResult::Cancelled;
 }
 

@@ -16,7 +16,7 @@ namespace quillgrid {
 
 enum class CommitResult : std::uint8_t {
     Done,      ///< also when there was nothing to take over
-    Cancelled, ///< a handler keeps the user in the cell
+    Cancelled, ///< a handler keeps the user in the cell, or where it has sent the user
     Gone,      ///< a handler took the control or the cell away
 };
 

@@ -419,6 +419,35 @@ TEST_F(Edit, HandlerThatAlwaysCancelsHoldsTheUserOnceForEachTextTyped) {
     }
 }
 
+TEST_F(Edit, HandlersThatCancelMaySendTheUserToAnotherCell) {
+    host.Grid->ValidateCell.Listen([&](Cell&, bool& cancel) {
+        cancel = true;
+        At("flag").SetFocus();
+    });
+    const std::function<void()> ways[] = {
+        [&] { host.Press(quillgrid::KeyDown); },
+        [&] { host.Press(KeyTab, ShiftShift); },
+        [&] {
+            host.Grid->MouseDown({100, 15});
+        },
+        [&] { At("city").SetFocus(); },
+        [&] { host.LeaveControl(); },
+        [&] { EXPECT_FALSE(host.Grid->CommitEdit()); },
+    };
+    std::int32_t value = 40;
+    for (const auto& way : ways) {
+        SCOPED_TRACE(&way - ways);
+        GoTo("count");
+        host.Type(std::to_string(++value));
+        way();
+        EXPECT_EQ(host.Grid->Cell()->Key(), "flag");
+        EXPECT_EQ(host.Focus, FocusPlace::EditBox);
+        EXPECT_TRUE(host.Box.Visible);
+        EXPECT_EQ(At("count").Text(), std::to_string(value));
+        EXPECT_THAT(Taken(), Not(Contains("Change count")));
+    }
+}
+
 TEST_F(Edit, LeavingAndComingBackTellTheHostInOrder) {
     GoTo("name");
     host.Type("Bob");
