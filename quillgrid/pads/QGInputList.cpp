@@ -45,20 +45,6 @@ QGInputList::QGInputList(const InputListPorts& ports)
     Sync();
 }
 
-void QGInputList::InitProperties() {
-    core_.SetSettings({.Font = ports_.Container.AmbientFont()});
-    Sync();
-}
-
-void QGInputList::ReadProperties(const PropertyBag& bag) {
-    core_.SetSettings(ReadListPadSettings(bag, ports_.Container.AmbientFont(), ports_.UserLocale));
-    Sync();
-}
-
-void QGInputList::WriteProperties(PropertyBag& bag) const {
-    WriteListPadSettings(core_.Settings(), ports_.Container.AmbientFont(), bag);
-}
-
 /// Shows what the act has changed, unless a handler has destroyed the pad meanwhile.
 template <typename Act>
 void QGInputList::Do(Act act) {
@@ -67,29 +53,50 @@ void QGInputList::Do(Act act) {
     if (!alive.expired()) Sync();
 }
 
+/// The new layout is shown as a whole even where all stays in its place: borders, letters and colours of the
+/// same measures are different nevertheless.
+template <typename Act>
+void QGInputList::LayOut(Act act) {
+    shown_.reset();
+    Do(act);
+}
+
+void QGInputList::InitProperties() {
+    LayOut([&] { core_.SetSettings({.Font = ports_.Container.AmbientFont()}); });
+}
+
+void QGInputList::ReadProperties(const PropertyBag& bag) {
+    LayOut([&] {
+        core_.SetSettings(ReadListPadSettings(bag, ports_.Container.AmbientFont(), ports_.UserLocale));
+    });
+}
+
+void QGInputList::WriteProperties(PropertyBag& bag) const {
+    WriteListPadSettings(core_.Settings(), ports_.Container.AmbientFont(), bag);
+}
+
 void QGInputList::SetBorderStyle(PopupBorderstyleConstants style) {
-    Do([&] { core_.SetBorderStyle(style); });
+    LayOut([&] { core_.SetBorderStyle(style); });
 }
 
 void QGInputList::SetFont(quillgrid::Font font) {
-    Do([&] { core_.SetFont(std::move(font)); });
+    LayOut([&] { core_.SetFont(std::move(font)); });
 }
 
 void QGInputList::SetVisibleRows(std::int32_t rows) {
-    Do([&] { core_.SetVisibleRows(rows); });
+    LayOut([&] { core_.SetVisibleRows(rows); });
 }
 
 void QGInputList::SetBackColor(Colour colour) {
-    InvalidateAll();
-    Do([&] { core_.SetBackColor(colour); });
+    LayOut([&] { core_.SetBackColor(colour); });
 }
 
 void QGInputList::SetAutoSize(bool on) {
-    Do([&] { core_.SetAutoSize(on); });
+    LayOut([&] { core_.SetAutoSize(on); });
 }
 
 void QGInputList::SetShowFocusRect(bool show) {
-    Do([&] { core_.SetShowFocusRect(show); });
+    LayOut([&] { core_.SetShowFocusRect(show); });
 }
 
 void QGInputList::SetImageList(const ImageSource* images) {
@@ -114,9 +121,7 @@ void QGInputList::Popup(std::shared_ptr<Cell> cell, float left, float top) {
 }
 
 void QGInputList::Refresh() {
-    core_.Refresh();
-    Sync();
-    InvalidateAll();
+    LayOut([&] { core_.Refresh(); });
 }
 
 void QGInputList::KeyDown(std::int32_t& keyCode, std::int32_t) {
@@ -181,8 +186,7 @@ void QGInputList::FocusLost() {
 
 void QGInputList::Resize() {
     if (laysOut_) return;
-    core_.Resize(ports_.Window.InnerSize().Width);
-    Sync();
+    LayOut([&] { core_.Resize(ports_.Window.InnerSize().Width); });
 }
 
 void QGInputList::Sync() {

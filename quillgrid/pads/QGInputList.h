@@ -108,6 +108,8 @@ private:
 
     template <typename Act>
     void Do(Act act);
+    template <typename Act>
+    void LayOut(Act act);
     void Sync();
     void SyncLayout();
     void SyncRows();
