@@ -5,6 +5,11 @@
 
 namespace quillgrid {
 
+bool Listitem::HasImage() const {
+    const auto* key = listImage_.Get<std::string>();
+    return key ? !key->empty() : !listImage_.IsNull() && !listImage_.IsEmpty();
+}
+
 void Listitem::SetListImage(Variant key) {
     const bool had = HasImage();
     listImage_ = std::move(key);

@@ -30,7 +30,7 @@ public:
     const Variant& ListImage() const { return listImage_; }
     void SetListImage(Variant key);
     /// Whether there is a key at all.
-    bool HasImage() const { return !listImage_.IsNull() && !listImage_.IsEmpty(); }
+    bool HasImage() const;
     std::int32_t Indent() const { return indent_; }
     /// Limited to 0..99.
     void SetIndent(std::int32_t indent);

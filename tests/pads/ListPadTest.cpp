@@ -229,6 +229,9 @@ TEST_F(ListPadTest, ImagesSwatchesAndFonts) {
     Popup(cell);
     EXPECT_EQ(pad->Layout().ImageColumnWidth, 0);
     EXPECT_EQ(pad->Layout().RowHeight, 32); // although no entry has an image
+    cell->Listitems().At(3)->SetListImage("");
+    Popup(cell);
+    EXPECT_EQ(pad->Layout().ImageColumnWidth, 0);
     cell->Listitems().At(2)->SetListImage("image 1");
     Popup(cell);
     EXPECT_EQ(pad->Layout().ImageColumnWidth, 20);
