@@ -71,7 +71,8 @@ void ListPadCore::SetImages(const ImageSource* images) {
 void ListPadCore::Attach(std::shared_ptr<Cell> cell) {
     if (!cell) return;
     cell_ = std::move(cell);
-    imageColumn_ = ImageColumnOf(*cell_);
+    template_ = cell_->Template();
+    imageColumn_ = ImageColumn();
     padWidth_ = cell_->Width();
     LayOut();
 }
@@ -79,6 +80,7 @@ void ListPadCore::Attach(std::shared_ptr<Cell> cell) {
 void ListPadCore::SelectCellEntry() {
     if (!cell_) return;
     opened_ = cell_->ListIndex();
+    if (RowCount() < 1) current_ = 0;
     if (SetCurrent(opened_)) EnsureVisible();
 }
 
@@ -115,12 +117,12 @@ std::int32_t ListPadCore::WidestText() const {
 }
 
 bool ListPadCore::HasSwatches() const {
-    return cell_ && (cell_->Template() == qgctColor || cell_->Template() == qgctSysColor);
+    return template_ == qgctColor || template_ == qgctSysColor;
 }
 
-std::int32_t ListPadCore::ImageColumnOf(const Cell& cell) const {
-    if (cell.Template() == qgctColor || cell.Template() == qgctSysColor) return SwatchColumn;
-    return cell.Listitems().HasImages() ? imageSize_.Width : 0;
+std::int32_t ListPadCore::ImageColumn() const {
+    if (HasSwatches()) return SwatchColumn;
+    return Items().HasImages() ? imageSize_.Width : 0;
 }
 
 const Listitems& ListPadCore::Items() const {
@@ -137,7 +139,7 @@ std::shared_ptr<Listitem> ListPadCore::RowItem(std::int32_t row) const {
 
 Font ListPadCore::FontOf(const Listitem& item) const {
     Font font = settings_.Font;
-    if (!cell_ || cell_->Template() != qgctFont) return font;
+    if (template_ != qgctFont) return font;
     font.Name = item.Text();
     font.Bold = false;
     return font;
@@ -155,10 +157,11 @@ std::string ListPadCore::Text() const {
     return item ? item->Text() : std::string();
 }
 
-std::int32_t ListPadCore::FindItem(std::shared_ptr<Cell> cell, char32_t character) {
+std::int32_t ListPadCore::FindItem(const std::shared_ptr<Cell>& cell, char32_t character) {
     if (!cell) return 0;
-    cell_ = std::move(cell);
-    return search_.Find(Items(), cell_->ListIndex(), character, ports_.Time.TickCount());
+    if (cell_) cell_ = cell; // before it first opens the pad shows samples
+    return search_.Find(std::as_const(*cell).Listitems(), cell->ListIndex(), character,
+                        ports_.Time.TickCount());
 }
 
 bool ListPadCore::SetCurrent(std::int64_t row) {

@@ -98,8 +98,9 @@ public:
     std::int32_t ItemData() const;
     std::string Text() const;
     std::shared_ptr<Listitem> SelectedItem() const { return RowItem(ListIndex()); }
-    /// Attaches the cell and gives the row that typed characters find in it; see ListPadSearch.
-    std::int32_t FindItem(std::shared_ptr<Cell> cell, char32_t character);
+    /// Gives the row that typed characters find in the cell, to which a pad that has opened before is
+    /// attached then; see ListPadSearch.
+    std::int32_t FindItem(const std::shared_ptr<Cell>& cell, char32_t character);
 
     // Keyboard and mouse; codes become 0, heights count from the top of the rows in view.
 
@@ -118,7 +119,7 @@ private:
     void LayOut();
     ListPadMeasures Measure() const;
     std::int32_t WidestText() const;
-    std::int32_t ImageColumnOf(const Cell& cell) const;
+    std::int32_t ImageColumn() const;
     const Listitems& Items() const;
     /// Makes a row current, within the rows there are. False when a handler has destroyed the pad.
     bool SetCurrent(std::int64_t row);
@@ -133,6 +134,7 @@ private:
     ListPadLayout layout_;
     ListPadSearch search_;
     std::shared_ptr<Cell> cell_;
+    CellTemplateConstants template_ = qgctNone; ///< the cell's when the pad opened
     Size imageSize_;
     std::int32_t imageColumn_ = 0;
     std::int32_t padWidth_ = 0;

@@ -137,8 +137,8 @@ void QGInputList::KeyPress(std::int32_t& character) {
     Do([&] { core_.KeyPress(character); });
 }
 
-std::int32_t QGInputList::FindItem(std::shared_ptr<Cell> cell, char32_t character) {
-    return core_.FindItem(std::move(cell), character);
+std::int32_t QGInputList::FindItem(const std::shared_ptr<Cell>& cell, char32_t character) {
+    return core_.FindItem(cell, character);
 }
 
 Rect QGInputList::OnPad(const Rect& area) const {

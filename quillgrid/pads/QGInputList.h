@@ -74,8 +74,9 @@ public:
     /// Keys and typed characters; all become 0.
     void KeyDown(std::int32_t& keyCode, std::int32_t shift);
     void KeyPress(std::int32_t& character);
-    /// Attaches the cell and gives the row that typed characters find in it, the current one included.
-    std::int32_t FindItem(std::shared_ptr<Cell> cell, char32_t character);
+    /// Gives the row that typed characters find in the cell, the current one included; a pad that has opened
+    /// before is attached to the cell then.
+    std::int32_t FindItem(const std::shared_ptr<Cell>& cell, char32_t character);
 
     // What the host calls
 

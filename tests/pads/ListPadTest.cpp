@@ -189,6 +189,30 @@ TEST_F(ListPadTest, EmptyListAndNoCell) {
     }
     pad->Attach(nullptr); // keeps the cell that it has
     EXPECT_TRUE(pad->AttachedCell());
+    Popup(List(5));
+    Key(padkey::End);
+    Popup(List(0)); // whatever was current in another list
+    EXPECT_EQ(State(), "0@1");
+}
+
+TEST_F(ListPadTest, SamplesAreShownUntilItFirstOpens) {
+    EXPECT_EQ(pad->FindItem(Words({"Alpha", "Beta"}), 'b'), 2);
+    pad->Refresh();
+    EXPECT_EQ(pad->RowCount(), 6);
+    EXPECT_EQ(Key(padkey::Down), "0@1");
+    Popup(List(5));
+    pad->FindItem(List(3), 'r'); // whose entries it shows from now on
+    EXPECT_EQ(Key(padkey::End), "3@1 v3");
+}
+
+TEST_F(ListPadTest, LooksLikeTheTemplateThatTheCellOpenedWith) {
+    const auto cell = List(3, qgctColor);
+    Popup(cell);
+    cell->Define({.NewCellTemplate = qgctFont});
+    EXPECT_TRUE(pad->HasSwatches());
+    EXPECT_EQ(pad->FontOf(Listitem()).Name, pad->Settings().Font.Name);
+    Popup(cell);
+    EXPECT_FALSE(pad->HasSwatches());
 }
 
 TEST_F(ListPadTest, TypingUsesTheCellsSearch) {
