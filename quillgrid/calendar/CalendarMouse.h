@@ -35,7 +35,9 @@ public:
     void Cancel();
 
 private:
-    CalendarPlace PlaceAt(Point point) const { return CalendarPlace::At(point, state_.Layout, state_.View); }
+    CalendarPlace PlaceAt(Point point) const {
+        return CalendarPlace::At(point, state_.Layout, state_.View, state_.Settings.ShowButtons);
+    }
     void OpenMenu(Point point);
     void PressButton(CalendarPadLayout::Button which);
     bool Step(CalendarPadLayout::Button which);

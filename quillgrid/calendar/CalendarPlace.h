@@ -17,7 +17,9 @@ struct QUILLGRID_EXPORT CalendarPlace {
     CalendarPadLayout::Button Which = CalendarPadLayout::PreviousMonth;
     std::int32_t Cell = 0; ///< of a `Day`, 0 to 41
 
-    static CalendarPlace At(Point point, const CalendarPadLayout& layout, const MonthView& view);
+    /// `buttons`: the caption's stepping buttons work.
+    static CalendarPlace At(Point point, const CalendarPadLayout& layout, const MonthView& view,
+                            bool buttons);
 
     friend bool operator==(const CalendarPlace&, const CalendarPlace&) = default;
 };

@@ -341,6 +341,20 @@ TEST_F(CalendarPad, ButtonsAndTheirZones) {
     }
 }
 
+TEST_F(CalendarPad, ButtonsWorkWhileTheyAreThere) {
+    GoTo(2024, 6, 15);
+    const Point next = Middle(CalendarPadLayout::NextMonth);
+    host.Pad->SetShowButtons(false); // even before they are painted away
+    host.Click(next);
+    host.Pad->MouseDown(next, PadButton::Right);
+    EXPECT_EQ(Date(), "2024-06-15");
+    EXPECT_EQ(host.Menu.Shown, 0);
+    host.Pad->Refresh();
+    host.Pad->SetShowButtons(true);
+    host.Click(next);
+    EXPECT_EQ(Date(), "2024-07-15");
+}
+
 TEST_F(CalendarPad, RepeatingEndsWithTheWindowTheReleaseAndTheCalendar) {
     GoTo(2024, 1, 15);
     const Point next = Middle(CalendarPadLayout::NextYear);

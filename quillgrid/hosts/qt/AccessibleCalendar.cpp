@@ -77,7 +77,7 @@ int AccessibleCalendar::NumberIn(int container, int place) const {
 int AccessibleCalendar::NumberAt(Point point) const {
     if (!Calendar()) return 0;
     const QGCalendar& pad = Calendar()->Pad();
-    const CalendarPlace place = CalendarPlace::At(point, pad.Layout(), pad.View());
+    const CalendarPlace place = CalendarPlace::At(point, pad.Layout(), pad.View(), pad.ShowButtons());
     constexpr std::array<int, 4> buttons{PreviousMonth, NextMonth, PreviousYear, NextYear};
     switch (place.What) {
     case CalendarPlace::Kind::Month: return Months;
@@ -107,7 +107,7 @@ PadPart AccessibleCalendar::Part(int number) const {
 PadPart AccessibleCalendar::CaptionPart(int number) const {
     const QGCalendar& pad = Calendar()->Pad();
     const CaptionEntry& entry = CaptionEntries[static_cast<std::size_t>(number - PreviousMonth)];
-    const bool there = IsMenu(number) || pad.View().ShowsButtons;
+    const bool there = IsMenu(number) || pad.ShowButtons();
     PadPart part{.Role = IsMenu(number) ? QAccessible::ButtonMenu : QAccessible::Button,
                  .Name = Said(entry.English, entry.German),
                  .Key = QString::fromLatin1(entry.Key)};
