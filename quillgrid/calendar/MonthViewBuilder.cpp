@@ -35,6 +35,7 @@ MonthView MonthViewBuilder::Build() {
                    .Font = state_.Settings.Font,
                    .ShowsButtons = state_.Settings.ShowButtons,
                    .IsFramedFlat = state_.Settings.BackColor == ColourButtonFace};
+    state_.Days.ShowMonth({today});
     view.FirstCell = Weekday(view.FirstDay, state_.Names.FirstDay) - 1;
     Mark(view, today);
     NameMonth(view);
@@ -80,7 +81,6 @@ void MonthViewBuilder::ColourParts(MonthView& view) const {
 }
 
 void MonthViewBuilder::ColourDays(MonthView& view) {
-    state_.Days.ShowMonth({view.FirstDay});
     for (std::int32_t day = 1; day <= view.DayCount; ++day) {
         MonthView::Day& look = view.Days[static_cast<std::size_t>(day) - 1];
         const auto range = state_.Ranges.Find({view.FirstDay + day - 1});
@@ -110,13 +110,13 @@ void MonthViewBuilder::MoveTo(DateTime date) {
 
 std::string MonthViewBuilder::DayText(DateTime date) {
     const std::int32_t day = NearestValidDay(date.Day);
-    std::string text = state_.Days.ShowMonth({day}).Name(PartsFromDay(day).Day);
+    std::string text = state_.Days.VisitMonth({day}).Name(PartsFromDay(day).Day);
     if (text.empty()) {
         const auto column = static_cast<std::size_t>(Weekday(day, state_.Names.FirstDay)) - 1;
         text = state_.Names.LongDays[column] + " " +
                Format(Variant(DateTime{day}), "Short Date", state_.Ports.UserLocale);
     }
-    state_.Days.ShowMonth(state_.Days.CurrentDate());
+    state_.Days.VisitMonth(state_.Days.CurrentDate());
     return text;
 }
 

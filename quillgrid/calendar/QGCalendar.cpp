@@ -225,8 +225,8 @@ void QGCalendar::Paint(Canvas& canvas, const Rect& dirty) const {
 
 std::string QGCalendar::HolidayName(DateTime date) {
     const std::int32_t day = NearestValidDay(date.Day);
-    std::string name = state_.Days.ShowMonth({day}).Name(PartsFromDay(day).Day);
-    state_.Days.ShowMonth(CurrentDate());
+    std::string name = state_.Days.VisitMonth({day}).Name(PartsFromDay(day).Day);
+    state_.Days.VisitMonth(CurrentDate());
     return name;
 }
 

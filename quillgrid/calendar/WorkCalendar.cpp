@@ -28,6 +28,11 @@ MonthTable& WorkCalendar::ShowMonth(DateTime date) {
     return book_.Table();
 }
 
+MonthTable& WorkCalendar::VisitMonth(DateTime date) {
+    book_.Visit(YearDayOf(NearestValidDay(date.Day)));
+    return book_.Table();
+}
+
 bool WorkCalendar::IsBlocked(std::int32_t day, const DayFlags& flags) {
     if (Weekend{flags.Saturday, flags.Sunday}.Blocks(day)) return true;
     return !flags.Holiday && book_.IsHoliday(YearDayOf(day));

@@ -76,6 +76,8 @@ public:
     MonthTable& ResolveHolidays(DateTime date);
     /// The table of the date's month; the rules are resolved anew when its year is another one.
     MonthTable& ShowMonth(DateTime date);
+    /// The same, but a table of that month stays as it is.
+    MonthTable& VisitMonth(DateTime date);
     /// The table of the month examined last.
     MonthTable& Table() { return book_.Table(); }
 

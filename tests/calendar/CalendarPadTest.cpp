@@ -355,6 +355,21 @@ TEST_F(CalendarPad, ButtonsWorkWhileTheyAreThere) {
     EXPECT_EQ(Date(), "2024-07-15");
 }
 
+TEST_F(CalendarPad, ChangedRulesShowAtTheNextRefreshOrInAnotherMonth) {
+    GoTo(2024, 3, 11);
+    host.Pad->SetAllowHoliday(false);
+    host.Pad->Calendar().Holidays()->Add({.Key = "fair", .Month = 3, .Day = 13});
+    host.Press(Right);
+    EXPECT_TRUE(host.Pad->Calendar().IsAllowed(On(2024, 3, 13)));
+    host.Press(Right);
+    EXPECT_EQ(host.Pad->View().Status, "Mittwoch 13.03.2024");
+    host.Pad->Refresh();
+    EXPECT_EQ(host.Pad->View().Status, "fair");
+    EXPECT_FALSE(host.Pad->Calendar().IsAllowed(On(2024, 3, 13)));
+    EXPECT_EQ(host.Pad->HolidayName(On(2024, 12, 25)), "1. Weihnachtstag");
+    EXPECT_EQ(host.Pad->Calendar().Easter(), On(2024, 3, 31));
+}
+
 TEST_F(CalendarPad, RepeatingEndsWithTheWindowTheReleaseAndTheCalendar) {
     GoTo(2024, 1, 15);
     const Point next = Middle(CalendarPadLayout::NextYear);
