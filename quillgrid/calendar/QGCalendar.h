@@ -87,6 +87,8 @@ public:
     /// Paints what of the pad lies in an area.
     void Paint(Canvas& canvas, const Rect& dirty) const;
 
+    Surface& hWnd() { return state_.Ports.Window; }
+
     /// The name of a day's holiday; "" for a day that is none.
     std::string HolidayName(DateTime date);
     /// The key of the first range that holds the date; "" when there is none.
