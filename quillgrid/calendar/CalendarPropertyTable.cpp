@@ -155,9 +155,10 @@ static_assert(std::all_of(WriteOrder.begin(), WriteOrder.end(), Find), "a key th
 
 } // namespace
 
-void ReadCalendarValues(const PropertyBag& bag, const Locale& locale, CalendarValues& values) {
+void ReadCalendarValues(const PropertyBag& bag, const Locale& locale, const CalendarValues& defaults,
+                        CalendarValues& values) {
     for (const CalendarProperty& property : Table)
-        property.Store(values, bag.Read(property.Key, property.Read(values)), locale);
+        property.Store(values, bag.Read(property.Key, property.Read(defaults)), locale);
 }
 
 void WriteCalendarValues(PropertyBag& bag, const CalendarValues& values, const CalendarValues& defaults) {

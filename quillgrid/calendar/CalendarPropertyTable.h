@@ -17,9 +17,9 @@ struct CalendarValues {
     CalendarSettings Days;
 };
 
-/// Takes every property from the bag; `values` are the defaults before. What the bag lacks or holds in an
-/// unusable form keeps its default.
-void ReadCalendarValues(const PropertyBag& bag, const Locale& locale, CalendarValues& values);
+/// Takes every property from the bag, the default of what the bag lacks. What cannot be read stays as it is.
+void ReadCalendarValues(const PropertyBag& bag, const Locale& locale, const CalendarValues& defaults,
+                        CalendarValues& values);
 void WriteCalendarValues(PropertyBag& bag, const CalendarValues& values, const CalendarValues& defaults);
 
 /// Whether setting the property kept under a key changes what the pad shows.

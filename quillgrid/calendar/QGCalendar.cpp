@@ -46,12 +46,13 @@ void QGCalendar::InitProperties() {
 }
 
 void QGCalendar::ReadProperties(const PropertyBag& bag) {
-    CalendarValues values = Defaults(state_.Ports);
-    ReadCalendarValues(bag, state_.Ports.UserLocale, values);
+    CalendarValues values{state_.Settings, Days()};
+    ReadCalendarValues(bag, state_.Ports.UserLocale, Defaults(state_.Ports), values);
     state_.Settings = std::move(values.Pad);
     Days() = std::move(values.Days);
     state_.Days.RestoreAutoHolidays(Days().AutoHolidays);
     state_.Redraw = true;
+    Refresh();
 }
 
 void QGCalendar::WriteProperties(PropertyBag& bag) const {

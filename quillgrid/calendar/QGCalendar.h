@@ -37,8 +37,8 @@ public:
 
     /// The defaults of a new pad, today among them; its rules are the German ones.
     void InitProperties();
-    /// What the bag lacks or holds in an unusable form gets its default. The date stays as it was kept, even
-    /// on a day that may not be picked.
+    /// What the bag lacks gets its default, what it holds in an unusable form stays as it is. The date is the
+    /// one that was kept, even on a day that may not be picked. Lays out and paints.
     void ReadProperties(const PropertyBag& bag);
     void WriteProperties(PropertyBag& bag) const;
 

@@ -37,9 +37,9 @@ void GridCalendar::ShareConfigWith(CalendarSettings& their) const {
 }
 
 void GridCalendar::Read(const PropertyBag& bag) {
-    CalendarValues values;
-    ReadCalendarValues(bag, ports_.UserLocale, values);
     CalendarSettings& mine = calendar_.Settings();
+    CalendarValues values{{}, mine};
+    ReadCalendarValues(bag, ports_.UserLocale, {}, values);
     mine.ConfigGermany = std::move(values.Days.ConfigGermany);
     mine.ConfigAustria = std::move(values.Days.ConfigAustria);
     mine.ConfigSwitzerland = std::move(values.Days.ConfigSwitzerland);

@@ -88,7 +88,7 @@ public:
     /// What `WriteProperties` does not save of the calendar, in a bag of its own: the rules of each preset
     /// that are on, and the looks of the calendar that drops down.
     void WriteCalendar(PropertyBag& bag) const;
-    /// What the bag lacks, or holds in an unusable form, gets its default.
+    /// What the bag lacks gets its default, what it holds in an unusable form stays as it is.
     void ReadCalendar(const PropertyBag& bag);
     /// Days from which holidays may be counted. Setting one is error 382 while a form designer shows the
     /// control.

@@ -148,6 +148,30 @@ TEST_F(CalendarPad, PropertiesAreKeptAndTheDateStaysWhereItWas) {
     EXPECT_EQ(other.Pad->CurrentDate(), On(2026, 3, 25));
 }
 
+TEST_F(CalendarPad, WhatIsReadShowsAtOnceAndWhatCannotBeReadStays) {
+    headless::MemoryBag bag;
+    host.Pad->WriteProperties(bag);
+    for (auto& entry : bag.Entries) {
+        if (entry.Key == "CurrentDate") entry.Value = Variant(On(2024, 12, 6));
+        if (entry.Key == "ForeColor") entry.Value = Variant("no colour");
+        if (entry.Key == "MinDate") entry.Value = Variant::Null();
+    }
+    std::erase_if(bag.Entries, [](const auto& entry) { return entry.Key == "ForeColorWeek"; });
+    host.Pad->SetForeColor(0x112233);
+    host.Pad->SetForeColorWeek(0x445566);
+    host.Pad->SetMinDate(On(2000, 1, 1));
+    host.Pad->SetRedraw(false);
+    host.Surface.Invalid.clear();
+    host.Pad->ReadProperties(bag);
+    EXPECT_EQ(host.Pad->View().Status, "Freitag 06.12.2024");
+    EXPECT_EQ(host.Surface.Invalid, std::vector<Rect>{host.Pad->Layout().Pad});
+    EXPECT_EQ(host.Pad->ForeColor(), 0x112233U);
+    EXPECT_EQ(host.Pad->MinDate(), On(2000, 1, 1));
+    EXPECT_EQ(host.Pad->ForeColorWeek(), Rgb(255, 255, 255)); // not kept: the default
+    EXPECT_TRUE(host.Pad->Redraw());
+    EXPECT_EQ(&host.Pad->hWnd(), &host.Surface);
+}
+
 TEST_F(CalendarPad, WeeksAndMarksFollowTheirSettingsAtTheNextRefresh) {
     GoTo(2023, 1, 2);
     EXPECT_EQ(host.Pad->View().Weeks[0], 52);
