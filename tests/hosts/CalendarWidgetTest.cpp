@@ -78,6 +78,9 @@ TEST_F(CalendarWidgetShown, KeysAndClicksBecomeSignals) {
     EXPECT_FALSE(Press(Qt::Key_S, QStringLiteral("\x13"), Qt::ControlModifier));
     Click(MiddleOf(20));
     EXPECT_EQ(Take(), (Names{"change 2025-01-20", "click 2025-01-20"}));
+    Click(MiddleOf(22), Qt::MiddleButton);
+    Click(MiddleOf(22), Qt::RightButton);
+    EXPECT_EQ(Take(), Names{}); // the left button alone picks days
     widget->setCurrentDate({});
     widget->setCurrentDate({12024, 1, 1});
     EXPECT_EQ(widget->currentDate(), QDate(2025, 1, 20));

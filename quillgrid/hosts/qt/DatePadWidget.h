@@ -18,9 +18,7 @@ public:
 
 protected:
     void PaintPad(Canvas& canvas, const Rect& area) override { pad_.Paint(canvas, area); }
-    void Pressed(Point point, Qt::MouseButton button) override {
-        pad_.MouseDown(point, button == Qt::RightButton ? PadButton::Right : PadButton::Left);
-    }
+    void Pressed(Point point, Qt::MouseButton button) override { pad_.MouseDown(point, ButtonOf(button)); }
     void Moved(Point point, bool) override { pad_.MouseMove(point); }
     void Released(Point point, Qt::MouseButton button) override {
         if (button == Qt::LeftButton) pad_.MouseUp(point);
@@ -30,6 +28,14 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    static PadButton ButtonOf(Qt::MouseButton button) {
+        switch (button) {
+        case Qt::LeftButton: return PadButton::Left;
+        case Qt::RightButton: return PadButton::Right;
+        default: return PadButton::Other;
+        }
+    }
+
     PadMenu menu_;
     QGCalendar pad_;
 };
