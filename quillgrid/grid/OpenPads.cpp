@@ -12,6 +12,7 @@ constexpr std::array<PadKind, 3> AllPads{PadKind::List, PadKind::Date, PadKind::
 } // namespace
 
 void OpenPads::Begin(const std::shared_ptr<Cell>& cell) {
+    Hide(); // the cell may have become one with another pad
     state_.PadOpen = true;
     cell_ = cell;
     value_ = state_.ValueArea(state_.CurrentRow);

@@ -332,6 +332,25 @@ TEST_F(Pad, BoundsOfTheCalendarAreDatesHoweverTheyAreWritten) {
     }
 }
 
+TEST_F(Pad, ACellThatBecomesOneWithAnotherPadOpensItAlone) {
+    const auto press = [this](ButtonStyleConstants button) {
+        At("date").SetButton(button);
+        host.Grid->DoubleClick(OnButton("date"));
+    };
+    Open("date");
+    press(qgbtCalc);
+    EXPECT_EQ(host.Pads->ShownWindows(), 1);
+    EXPECT_EQ(Taken(), (Entries{"close calendar", "open calculator at 1121,528"}));
+    press(qgbtClock);
+    EXPECT_EQ(host.Pads->ShownWindows(), 1);
+    At("date").SetValidationRule(qgvrNone);
+    host.Journal.Clear();
+    press(qgbtClock); // now the host's
+    EXPECT_EQ(host.Pads->ShownWindows(), 0);
+    host.Clock.Advance(100);
+    EXPECT_EQ(Taken(), (Entries{"close calendar", "DropDown date 289,28"}));
+}
+
 TEST_F(Pad, NothingStaysOpenLongerThanItsCellIsLookedAt) {
     const struct {
         const char* Name;
