@@ -29,13 +29,14 @@ void SpinRepeater::Forget(const Cell& cell) {
     if (cell_.lock().get() == &cell) Stop();
 }
 
-/// False when nothing is left to repeat: the value stands at its limit, or a handler took the cell away.
+/// False when nothing is left to repeat: the value stands at its limit, or a handler took the cell or the
+/// user away.
 bool SpinRepeater::Step(bool up) {
     const auto cell = cell_.lock();
     if (!cell) return false;
     const Variant before = cell->Value();
     stepper_.Step(up ? U'+' : U'-');
-    return state_.IsCurrent(*cell) && !EqualAsText(before, cell->Value());
+    return cell_.lock() == cell && state_.IsCurrent(*cell) && !EqualAsText(before, cell->Value());
 }
 
 void SpinRepeater::Wait() {
@@ -51,7 +52,7 @@ void SpinRepeater::Continue() {
     if (state_.Terminated || state_.Left || !cell || !state_.IsCurrent(*cell)) return Stop();
     if (!held.Left && !held.Right) return Stop();
     if (Step(held.Left && up_)) return Wait();
-    if (!state_.Terminated) Stop();
+    Forget(*cell);
 }
 
 } // namespace quillgrid

@@ -130,6 +130,14 @@ TEST_F(MouseTest, NothingWaitsForASpinCellThatIsGone) {
     }
 }
 
+TEST_F(MouseTest, NothingWaitsWhereAHandlerOfTheStepHasSentTheUserAway) {
+    Add("n", Variant(5), qgctSpin);
+    Start();
+    Grid.Change.Listen([&](Cell&) { Host.LeaveControl(); });
+    Hold(UpperHalf);
+    EXPECT_EQ(Host.Clock.Waiting(), 0U);
+}
+
 TEST_F(MouseTest, HandlersMayDestroyTheControlWhileAButtonIsHeld) {
     Add("n", Variant(5), qgctSpin);
     Start();
