@@ -49,6 +49,8 @@ void OpenPads::Hide() {
 }
 
 void OpenPads::Follow() {
+    const auto waiter = waiter_.lock();
+    if (waiter && !state_.IsCurrent(*waiter)) waiting_.Disconnect();
     const auto cell = cell_.lock();
     if (!cell || !IsOpen()) return;
     if (!state_.IsCurrent(*cell) || state_.ValueArea(state_.CurrentRow) != value_) Hide();

@@ -31,13 +31,14 @@ public:
     void Begin(const std::shared_ptr<Cell>& cell);
     /// The same, and makes the pad's window ready to be shown below the cell's value.
     PadWindow& Detach(PadKind kind, const std::shared_ptr<Cell>& cell);
-    /// What the host is about to drop down for a cell; called off by `Hide` and when the cell goes.
+    /// What the host is about to drop down for a cell; called off by `Hide` and when the cell goes or is
+    /// left.
     void Await(const std::shared_ptr<Cell>& cell, Connection waiting);
     /// The cell goes.
     void Forget(const Cell& cell);
     /// Hides all pads and takes the flag back.
     void Hide();
-    /// Hides a pad that no longer stands where its cell is.
+    /// Hides a pad that no longer stands where its cell is; nothing waits for a cell that was left.
     void Follow();
     /// No window is touched any more.
     void Terminate();

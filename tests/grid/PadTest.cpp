@@ -408,6 +408,11 @@ TEST_F(Pad, TheHostDropsDownAfterAMomentAndKeysWaitForIt) {
     host.Clock.Advance(100);
     EXPECT_THAT(Taken(), IsEmpty());
     EXPECT_EQ(host.Clock.Waiting(), 0U);
+    host.Grid->MouseDown(OnButton("time"));
+    ASSERT_EQ(host.Clock.Waiting(), 1U);
+    At("time").SetVisible(false);
+    host.Grid->Refresh();
+    EXPECT_EQ(host.Clock.Waiting(), 0U);
 }
 
 TEST_F(Pad, OnlyAnOpenPadKeepsKeyEventsBack) {
