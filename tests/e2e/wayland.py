@@ -13,6 +13,7 @@ OUTSIDE = (950, 800)
 BUTTON = 880  # of every cell that has one
 COUNTRY, CAPITAL, FOUNDED = 116, 344, 439
 TOOLBAR = (600, 18)
+STILL = (0, 100, 900, 760)  # below the blinking caret of the first row
 
 
 class NestedEditor(Editor):
@@ -24,9 +25,9 @@ class NestedEditor(Editor):
 
     def rests(self):
         """Whether a moment goes by without a change: the compositor has given the window its size by then."""
-        before = self.look().part(0, 0, 900, 760)
+        before = self.look().part(*STILL)
         time.sleep(0.5)
-        return self.look().part(0, 0, 900, 760) == before
+        return self.look().part(*STILL) == before
 
     def look(self):
         return Picture("root")
